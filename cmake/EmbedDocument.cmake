@@ -1,0 +1,16 @@
+# Run by embed_document: see Embed.cmake.
+file(SIZE ${FILE} size)
+if(NOT size EQUAL LENGTH)
+  message(FATAL_ERROR
+    "${FILE} is ${size} bytes long and must be ${LENGTH}: make up for it in "
+    "its leading comment.")
+endif()
+file(READ ${FILE} bytes HEX)
+string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," bytes "${bytes}")
+file(WRITE ${OUTPUT}
+"extern const char ${NAME}[${LENGTH}];
+extern const unsigned int ${NAME}_len;
+const char ${NAME}[${LENGTH}] = {
+${bytes}};
+const unsigned int ${NAME}_len = ${LENGTH};
+")
