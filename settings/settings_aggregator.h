@@ -1,0 +1,48 @@
+// The output buffer of the settings writer.
+#pragma once
+
+#include <cstdint>
+
+#include "settings/setting_data_item.h"
+
+namespace SMImplementation {
+
+// A growable buffer with big-endian write operations. An append for which no
+// memory can be had is lost; Failed() then says so.
+class SettingsAggregator {
+ public:
+  // `initial_size` in bytes; the capacity is at least 1024.
+  explicit SettingsAggregator(unsigned long initial_size);
+  ~SettingsAggregator();
+  SettingsAggregator(const SettingsAggregator&) = delete;
+  SettingsAggregator& operator=(const SettingsAggregator&) = delete;
+
+  // Doubles the capacity as long as the bytes would fill the buffer.
+  void AppendData(const unsigned char* data, unsigned long count);
+
+  void WriteU8(unsigned char value);
+  void WriteU16(unsigned short value);
+  void WriteU32(unsigned int value);
+  void WriteDouble(double value);
+  // A text longer than 65535 bytes is cut there.
+  void WriteSimpleStringAsPString(const SASM::SimpleString& text);
+  void WriteSettingsDataType(SASM::_SettingsDataType type);
+
+  // Copies the first `count` bytes of the buffer, but no more than its
+  // capacity, to `dest`; returns the number copied.
+  unsigned long GetData(unsigned long count, unsigned char* dest) const;
+
+  // Bytes appended so far.
+  [[nodiscard]] std::uint64_t Size() const { return size_; }
+  [[nodiscard]] bool Failed() const { return failed_; }
+
+ private:
+  bool Grow();
+
+  unsigned char* buffer_;
+  std::uint64_t capacity_;
+  std::uint64_t size_ = 0;
+  bool failed_ = false;
+};
+
+}  // namespace SMImplementation

@@ -1,0 +1,102 @@
+#include "settings/settings_writer.h"
+
+#include <memory>
+#include <new>
+
+#include "settings/big_endian.h"
+#include "settings/settings_format.h"
+#include "settings/string_vector.h"
+#include "store/settings_manager.h"
+
+namespace SMImplementation {
+namespace {
+
+constexpr unsigned int kShortHeaderSize = 2;
+constexpr unsigned int kLongHeaderSize = 6;
+
+void StoreRecordHeader(unsigned int body_size, unsigned char* bytes) {
+  const bool is_short = body_size < kLongLengthFollows;
+  const unsigned int length = is_short ? body_size : kLongLengthFollows;
+  const unsigned int word = kRecordType << kShortLengthBits | length;
+  StoreBigEndian(static_cast<unsigned short>(word), bytes);
+  if (!is_short) StoreBigEndian(body_size, bytes + kShortHeaderSize);
+}
+
+}  // namespace
+
+SettingsWriter::SettingsWriter(SASM::SettingsManager* manager,
+                               const SASM::SimpleString& domain)
+    : manager_(manager), domain_(domain) {}
+
+void SettingsWriter::GetNewSettingsWithName(const SASM::SimpleString& name,
+                                            unsigned char** data,
+                                            unsigned long& length) {
+  *data = nullptr;
+  length = 0;
+  WriteHeaderInfo(name);
+  WriteSettingsDictionary();
+  const unsigned long body_size = aggregator_.Size();
+  if (failed_ || aggregator_.Failed() || body_size > kLongestBody) return;
+  const unsigned int header_size =
+      body_size < kLongLengthFollows ? kShortHeaderSize : kLongHeaderSize;
+  *data = new (std::nothrow) unsigned char[header_size + body_size];
+  if (!*data) return;
+  length = header_size + body_size;
+  StoreRecordHeader(static_cast<unsigned int>(body_size), *data);
+  (void)aggregator_.GetData(body_size, *data + header_size);  // it holds them
+}
+
+void SettingsWriter::WriteHeaderInfo(const SASM::SimpleString& name) {
+  aggregator_.WriteU32(kMagic);
+  aggregator_.WriteU16(kNewestVersion);
+  aggregator_.WriteU32(0);
+  aggregator_.WriteSimpleStringAsPString(name);
+  aggregator_.WriteU32(0);
+}
+
+void SettingsWriter::WriteSettingsDictionary() {
+  const std::unique_ptr<SASM::StringVector> keys(
+      manager_->GetNewSettingKeys(domain_));
+  failed_ = failed_ || !keys;
+  for (unsigned int i = 0; keys && i < keys->count; ++i) {
+    const auto& key = *static_cast<SASM::SimpleString*>(keys->elements[i]);
+    const SASM::SettingDataItem* item = manager_->GetSetting(key, domain_);
+    if (!item) continue;
+    aggregator_.WriteSimpleStringAsPString(key);
+    WriteItem(*item);
+    aggregator_.WriteU8(kEntryTerminator);
+  }
+}
+
+void SettingsWriter::WriteItem(const SASM::SettingDataItem& item) {
+  aggregator_.WriteSettingsDataType(item.type);
+  if (const SASM::SDIVector* array = SASM::ArrayOrNull(&item)) {
+    WriteArray(*array);
+  } else {
+    WriteScalar(item);
+  }
+}
+
+void SettingsWriter::WriteScalar(const SASM::SettingDataItem& item) {
+  if (item.type == SASM::kSettingsDataTypeDouble) {
+    aggregator_.WriteDouble(item.value.number);
+  } else if (item.type == SASM::kSettingsDataTypeBool) {
+    aggregator_.WriteU8(item.value.boolean ? 1 : 0);
+  } else if (item.type == SASM::kSettingsDataTypeString && item.value.string) {
+    aggregator_.WriteSimpleStringAsPString(*item.value.string);
+  }
+}
+
+void SettingsWriter::WriteArray(const SASM::SDIVector& array) {
+  for (unsigned int i = 0; i < array.count; ++i) {
+    const SASM::SettingDataItem& element = *array.At(i);
+    if (element.name.IsEmpty()) continue;  // would read as the array's end
+    aggregator_.WriteSimpleStringAsPString(element.name);
+    aggregator_.WriteSettingsDataType(element.type);
+    WriteScalar(element);
+  }
+  aggregator_.WriteU16(0);
+  aggregator_.WriteU8(kEndOfArray);
+}
+
+}  // namespace SMImplementation
