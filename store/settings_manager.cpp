@@ -1,0 +1,224 @@
+#include "store/settings_manager.h"
+
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "settings/settings_writer.h"
+#include "store/default_settings.h"
+#include "store/setting_keys.h"
+#include "store/settings_file.h"
+
+namespace SASM {
+namespace {
+
+// Creates the directory itself, as the last name of a directory chain.
+const SimpleString& ThisDirectory() {
+  static const SimpleString name(".");
+  return name;
+}
+
+}  // namespace
+
+SettingsManager::SettingsManager(FileManager* file_manager)
+    : mLayout(file_manager),
+      mFileManager(file_manager),
+      mLastUsed(mDomainSettings.end()) {
+  LoadMasterSettingsFromDisk();
+}
+
+SettingsManager::~SettingsManager() { DeleteAllDictionaries(); }
+
+const SimpleString& SettingsManager::MasterDomain() {
+  return MasterDomainName();
+}
+
+SettingsDictionary* SettingsManager::LoadedDictionary(
+    const SimpleString& domain) {
+  if (mLastUsed == mDomainSettings.end() || !(mLastUsed->key == domain)) {
+    mLastUsed = mDomainSettings.find(domain);
+  }
+  return mLastUsed == mDomainSettings.end() ? nullptr : mLastUsed->value;
+}
+
+SettingsDictionary* SettingsManager::EnsureSettingsAreLoadedForDomain(
+    const SimpleString& domain) {
+  if (SettingsDictionary* loaded = LoadedDictionary(domain)) return loaded;
+  SimpleString* name = nullptr;
+  SettingsDictionary* read =
+      GetNewSettingsDataFromFile(mLayout.SettingsFileOf(domain), &name);
+  delete name;
+  if (read) return AddDictionary(domain, read);
+  SettingsDictionary* empty =
+      AddDictionary(domain, new (std::nothrow) SettingsDictionary);
+  if (empty) SynchronizeSettingsForDomain(domain);
+  return empty;
+}
+
+SettingsDictionary* SettingsManager::AddDictionary(
+    const SimpleString& domain, SettingsDictionary* dictionary) {
+  std::unique_ptr<SettingsDictionary> owned(dictionary);
+  if (!owned || !owned->IsUsable()) return nullptr;
+  const auto added = mDomainSettings.insert(domain, owned.get());
+  return added == mDomainSettings.end() ? nullptr : owned.release();
+}
+
+void SettingsManager::DeleteAllDictionaries() {
+  for (auto& entry : mDomainSettings) delete entry.value;
+  mDomainSettings.clear();
+  mLastUsed = mDomainSettings.end();
+}
+
+SettingsDictionary* SettingsManager::GetNewSettingsDataFromFile(
+    const SimpleString& path, SimpleString** name) {
+  return ReadSettingsFile(path, name);
+}
+
+bool SettingsManager::SynchronizeSettingsForDomain(const SimpleString& domain) {
+  if (!mLayout.IsOnDisk()) return true;
+  unsigned char* data = nullptr;
+  unsigned long size = 0;
+  SMImplementation::SettingsWriter(this, domain)
+      .GetNewSettingsWithName(mLayout.DictionaryNameOf(domain), &data, size);
+  const std::unique_ptr<unsigned char[]> image(data);
+  if (!image) return false;
+  // What it cannot create, the writing will miss.
+  (void)mFileManager->CreateDirectoryAtPath(mLayout.DirectoryOf(domain),
+                                            ThisDirectory());
+  return DeleteDomainSettingsFile(domain, true) &&
+         WriteFileImage(mLayout.SettingsFileOf(domain), image.get(), size);
+}
+
+bool SettingsManager::DeleteDomainSettingsFile(const SimpleString& domain,
+                                               bool file_only) {
+  if (!mLayout.IsOnDisk()) return true;
+  if (file_only || domain == MasterDomain()) {
+    return mFileManager->RemoveFileAtPath(mLayout.SettingsFileOf(domain));
+  }
+  return StaysInside(domain) &&
+         mFileManager->RemoveFileAtPath(mLayout.DirectoryOf(domain));
+}
+
+bool SettingsManager::HasSetting(const SimpleString& key,
+                                 const SimpleString& domain) {
+  return GetSetting(key, domain) != nullptr;
+}
+
+SettingDataItem* SettingsManager::GetSetting(const SimpleString& key,
+                                             const SimpleString& domain) {
+  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  if (!dictionary) return nullptr;
+  const auto found = dictionary->find(key);
+  return found == dictionary->end() ? nullptr : &found->value;
+}
+
+bool SettingsManager::SetSetting(SettingDataItem* item, const SimpleString& key,
+                                 const SimpleString& domain) {
+  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  SettingDataItem copy = *item;
+  if (!dictionary || !copy.IsWhole()) return false;
+  const auto stored = dictionary->insert(key, std::move(copy));
+  return stored != dictionary->end() && SynchronizeSettingsForDomain(domain);
+}
+
+bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
+                                           const SimpleString& domain) {
+  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  if (!dictionary) return false;
+  const auto found = dictionary->find(key);
+  if (found != dictionary->end()) dictionary->erase(found);
+  return SynchronizeSettingsForDomain(domain);
+}
+
+StringVector* SettingsManager::GetNewSettingKeys(const SimpleString& domain) {
+  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  std::unique_ptr<StringVector> keys(
+      dictionary ? new (std::nothrow) StringVector : nullptr);
+  if (!keys) return nullptr;
+  for (const auto& entry : *dictionary) {
+    if (!keys->addElement(&entry.key)) return nullptr;
+  }
+  return keys.release();
+}
+
+bool SettingsManager::LoadMasterSettingsFromDisk() {
+  SimpleString* name = nullptr;
+  SettingsDictionary* read =
+      GetNewSettingsDataFromFile(mLayout.SettingsFileOf(MasterDomain()), &name);
+  delete name;
+  DeleteAllDictionaries();
+  AddDictionary(MasterDomain(),
+                read ? read : new (std::nothrow) SettingsDictionary);
+  if (!read) SynchronizeSettingsForDomain(MasterDomain());
+  WriteOrUpdateDefaultMasterSettings();
+  if (!StoredDomains()) StoreEmptyDomains();
+  VerifyDomainsList();
+  return true;
+}
+
+bool SettingsManager::WriteOrUpdateDefaultMasterSettings() {
+  InsertMissing(DefaultMasterSettings(), MasterDomain());
+  return SynchronizeSettingsForDomain(MasterDomain());
+}
+
+void SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
+                                    const SimpleString& domain) {
+  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  if (!dictionary) return;
+  for (const DefaultSetting& row : rows) {
+    const SimpleString key = row.key;
+    if (dictionary->find(key) != dictionary->end()) continue;
+    const SettingDataItem* master_item =
+        row.master_key ? GetSetting(row.master_key, MasterDomain()) : nullptr;
+    SettingDataItem item = MakeDefaultItem(row, master_item);
+    if (item.IsWhole()) dictionary->insert(key, std::move(item));
+  }
+}
+
+SDIVector* SettingsManager::StoredDomains() {
+  return ArrayOrNull(GetSetting(kDomains, MasterDomain()));
+}
+
+bool SettingsManager::StoreEmptyDomains() {
+  const SDIVector empty;
+  SettingDataItem item(kDomains, kSettingsDataTypeArray, &empty);
+  return SetSetting(&item, kDomains, MasterDomain());
+}
+
+SDIVector* SettingsManager::GetDomains() {
+  if (!StoredDomains()) LoadMasterSettingsFromDisk();
+  return StoredDomains();
+}
+
+void SettingsManager::VerifyDomainsList() {
+  // Not GetDomains: it would load the settings that are being loaded.
+  SDIVector* domains = StoredDomains();
+  if (!domains || !mLayout.IsOnDisk()) return;
+  domains->removeElementsIf([this](const void* element) {
+    const auto* domain = static_cast<const SettingDataItem*>(element);
+    const SimpleString file = mLayout.SettingsFileOf(domain->name);
+    return file.HasText() && mFileManager->SizeOfFileAtPath(file) == 0;
+  });
+}
+
+bool SettingsManager::WriteOrUpdateSettingsForDomain(
+    const SimpleString& domain) {
+  InsertMissing(DefaultDomainSettings(), domain);
+  return SynchronizeSettingsForDomain(domain);
+}
+
+bool SettingsManager::AddDomainWithDefaultSettings(const SimpleString& domain) {
+  SDIVector* domains = GetDomains();
+  if (!domains) return false;
+  for (unsigned int i = 0; i < domains->count; ++i) {
+    if (domains->At(i)->name == domain) return true;
+  }
+  if (!WriteOrUpdateSettingsForDomain(domain)) return false;
+  const bool listed = true;  // the name says it all
+  const SettingDataItem element(domain, kSettingsDataTypeBool, &listed);
+  // The list is changed in place: to store it is to write it.
+  return domains->addElement(&element) &&
+         SynchronizeSettingsForDomain(MasterDomain());
+}
+
+}  // namespace SASM

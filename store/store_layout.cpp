@@ -1,0 +1,98 @@
+#include "store/store_layout.h"
+
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+namespace SASM {
+namespace {
+
+// Below the base directory.
+constexpr char kSettingsPath[] = "tessary.example/support/corvaneplayer/sys";
+constexpr char kSharedObjects[] = "#SharedObjects";
+
+constexpr char kSettingsFileName[] = "settings.sol";
+constexpr char kDomainDirectoryPrefix[] = "#";
+
+constexpr char kMasterDictionaryName[] = "settings";
+constexpr char kDomainDictionarySuffix[] = "/settings";
+
+// Without a text when one of the two is.
+void Append(SimpleString* text, const SimpleString& tail) {
+  if (!tail.HasText()) *text = SimpleString::WithoutText();
+  text->AppendString(tail.c_str());
+}
+
+}  // namespace
+
+StoreLayout::StoreLayout(const FileManager* file_manager)
+    : mFileManager(file_manager),
+      mBaseDirectory(file_manager->GetUserSettingsBaseDirectory()) {
+  if (!IsOnDisk()) return;
+  mSharedObjectsDirectory = LocalStorageRoot();
+  const std::unique_ptr<StringVector> names(
+      mFileManager->CreateNewListOfDirectoryContents(mSharedObjectsDirectory));
+  if (names && names->count > 0) {
+    mSharedObjectsDirectory =
+        Join(mSharedObjectsDirectory, SimpleString(names->TextAt(0)));
+  }
+}
+
+SimpleString StoreLayout::Join(const SimpleString& directory,
+                               const SimpleString& name) const {
+  // Below no directory there is no path; "/name" would be one.
+  if (directory.IsEmpty()) return SimpleString::WithoutText();
+  SimpleString path = directory;
+  Append(&path, mFileManager->GetPathSeparator());
+  Append(&path, name);
+  return path;
+}
+
+SimpleString StoreLayout::SettingsDirectory() const {
+  return Join(mBaseDirectory, kSettingsPath);
+}
+
+SimpleString StoreLayout::DirectoryOf(const SimpleString& domain) const {
+  if (domain == MasterDomainName()) return SettingsDirectory();
+  SimpleString name = kDomainDirectoryPrefix;
+  Append(&name, domain);
+  return Join(SettingsDirectory(), name);
+}
+
+SimpleString StoreLayout::SettingsFileOf(const SimpleString& domain) const {
+  return Join(DirectoryOf(domain), kSettingsFileName);
+}
+
+SimpleString StoreLayout::DictionaryNameOf(const SimpleString& domain) const {
+  if (domain == MasterDomainName()) return kMasterDictionaryName;
+  SimpleString name = domain;
+  name.AppendString(kDomainDictionarySuffix);
+  return name;
+}
+
+SimpleString StoreLayout::LocalStorageRoot() const {
+  return Join(mBaseDirectory, kSharedObjects);
+}
+
+SimpleString StoreLayout::LocalStorageOf(const SimpleString& domain) const {
+  return Join(mSharedObjectsDirectory, domain);
+}
+
+const SimpleString& MasterDomainName() {
+  static const SimpleString name("___MASTER_DOMAIN");
+  return name;
+}
+
+bool StaysInside(const SimpleString& domain) {
+  if (domain.IsEmpty() || *domain.c_str() == '/') return false;
+  for (const char* part = domain.c_str(); part;) {
+    const char* slash = std::strchr(part, '/');
+    const std::string_view component =
+        slash ? std::string_view(part, slash) : std::string_view(part);
+    if (component == "." || component == "..") return false;
+    part = slash ? slash + 1 : nullptr;
+  }
+  return true;
+}
+
+}  // namespace SASM

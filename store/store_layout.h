@@ -1,0 +1,58 @@
+// Where the settings and the stored data lie.
+#pragma once
+
+#include "platform/file_manager.h"
+
+namespace SASM {
+
+// Every path of the store, below the user settings base directory. Domain
+// names go into paths unchanged. A path for which memory is short is without
+// a text. Only paths: nothing here is created, changed or checked, but for
+// the listing of the local storage once, at construction.
+class StoreLayout {
+ public:
+  // Looks up the local storage directory: "#SharedObjects" below the base
+  // directory, or the first entry in its sorted listing. The file manager is
+  // borrowed and outlives the layout.
+  explicit StoreLayout(const FileManager* file_manager);
+
+  // False when the user has no home directory: there are no paths then.
+  [[nodiscard]] bool IsOnDisk() const { return !mBaseDirectory.IsEmpty(); }
+
+  // The directory of the master settings file and of all domain directories.
+  [[nodiscard]] SimpleString SettingsDirectory() const;
+  // The directory of a domain's settings file; of the master domain, the
+  // settings directory.
+  [[nodiscard]] SimpleString DirectoryOf(const SimpleString& domain) const;
+  [[nodiscard]] SimpleString SettingsFileOf(const SimpleString& domain) const;
+  // The name a domain's settings file carries inside.
+  [[nodiscard]] SimpleString DictionaryNameOf(const SimpleString& domain) const;
+
+  // "#SharedObjects" itself.
+  [[nodiscard]] SimpleString LocalStorageRoot() const;
+  // Fixed at construction, whatever is removed afterwards.
+  [[nodiscard]] const SimpleString& LocalStorageDirectory() const {
+    return mSharedObjectsDirectory;
+  }
+  [[nodiscard]] SimpleString LocalStorageOf(const SimpleString& domain) const;
+
+  // `directory`, the separator, `name`.
+  [[nodiscard]] SimpleString Join(const SimpleString& directory,
+                                  const SimpleString& name) const;
+
+ private:
+  const FileManager* mFileManager;
+  SimpleString mBaseDirectory;
+  SimpleString mSharedObjectsDirectory;
+};
+
+// The reserved domain name under which the global settings are kept. Lives to
+// the end of the process.
+[[nodiscard]] const SimpleString& MasterDomainName();
+
+// True when a path made with this domain name as its last part stays below
+// the directory before it: the name is neither empty nor absolute and has no
+// component "." or "..".
+[[nodiscard]] bool StaysInside(const SimpleString& domain);
+
+}  // namespace SASM
