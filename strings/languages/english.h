@@ -1,0 +1,186 @@
+// English texts.
+#pragma once
+
+#include "strings/text_row.h"
+
+namespace NCPStrings {
+
+// clang-format off
+inline constexpr TextRow kEnglishTexts[] = {
+    // Buttons and common words
+    {11000, "OK"},
+    {11001, "Cancel"},
+    {11002, "Confirm"},
+    {11003, "Close"},
+    {11004, "Add"},
+    {11005, "Add…"},
+    {11006, "Delete All…"},
+    {11007, "Delete Data"},
+    {11008, "Deauthorize"},
+    {11009, "Remove"},
+    {11010, "Remove All…"},
+    {11011, "Learn More"},
+    {11012, "Add File…"},
+    {11013, "Add Folder…"},
+    {11014, "Remove All"},
+    {11015, "Edit…"},
+    // Permissions, as choices in a list
+    {11100, "Block"},
+    {11101, "Ask me"},
+    {11102, "Allow"},
+    {11103, "Ask me for permission"},
+    // Titles and the command line
+    {11200, "Confirmation Needed"},
+    {11400, "Tessary Corvane Player Preferences"},
+    {11401, "Specify the name of the page to show %s"},
+    {11402, "page"},
+    // Files that could not be deleted
+    {11500, "Unable to Delete Files"},
+    {11501, "Corvane Player was unable to delete all local storage. The files may be locked by another program. Close all browsers or restart your computer, and try again."},
+    {11502, "Corvane Player was unable to delete all license files. They may be locked by another program. Close all browsers or restart your computer, and try again."},
+    // The panel's other name
+    {12000, "Corvane Player Settings Manager"},
+    // Storage page
+    {21000, "Storage"},
+    {21001, "Local Storage Settings"},
+    {21002, "Local storage may be used by websites to save data about this computer's use of Corvane Player, such as viewing history, game progress, saved work, preferences, or data that identifies this computer."},
+    {21003, "Learn more about privacy controls"},
+    {21004, "Allow sites to save information on this computer"},
+    {21005, "Ask me before allowing new sites to save information on this computer"},
+    {21006, "Block all sites from storing information on this computer"},
+    {21007, "Local Storage Settings by Site…"},
+    // Disabling local storage; adding a local storage setting for a site
+    {21100, "Disable Local Storage"},
+    {21101, "Blocking all sites from storing information may disable functionality on some web sites.This will also delete all data stored by previously visited sites, which may include game progress, login data, saved work, or preferences."},
+    {21102, "Blocking all sites from storing information may disable functionality on some web sites."},
+    {21103, "This will also delete all data stored by previously visited sites, which may include game progress, login data, saved work, or preferences."},
+    {21104, "You may want to"},
+    {21105, "browse temporarily without saving data or history."},
+    {21106, "Learn more about privacy controls"},
+    {21107, "Add Local Storage Setting by Site"},
+    {21108, "When this site wants to use local storage:"},
+    {21109, "Allow the site to save information on this computer"},
+    {21110, "Prompt before allowing the site to save information on this computer"},
+    {21111, "Block the site from storing information on this computer"},
+    // Space used by a site
+    {21200, "none"},
+    {21201, "%d bytes"},
+    {21202, "%d kB"},
+    {21203, "%.2f MB"},
+    {21204, "%.2f GB"},
+    // Private browsing
+    {21300, "Private Browsing"},
+    {21301, "You may want to browse temporarily without saving local storage or history."},
+    {21302, "Learn more about private browsing"},
+    // Camera and Mic page, with radio buttons
+    {31000, "Camera and Mic"},
+    {31001, "Camera and Microphone Settings"},
+    {31002, "Ask me when a site wants to use the camera or microphone (recommended)"},
+    {31003, "Block all sites from using the camera and microphone"},
+    {31004, "Camera and Microphone Settings by Site…"},
+    {31005, "Camera and microphone use is always blocked. This override is set in your rql.cfg file, possibly by your system administrator."},
+    {31006, "Add Camera and Microphone Setting by Site"},
+    {31007, "When this site wants to use a camera or mic:"},
+    // Playback page: peer-assisted networking
+    {41000, "Playback"},
+    {41001, "Peer-assisted Networking"},
+    {41002, "Peer-assisted networking enables smoother media playback and features, such as chat, that connect to other computers. It may use additional bandwidth."},
+    {41003, "Learn more about Peer-assisted Networking"},
+    {41004, "Ask me when a site wants to use peer-assisted networking"},
+    {41005, "Block all sites from using peer-assisted networking"},
+    {41006, "Peer-assisted Networking Settings by Site…"},
+    // Protected content
+    {41100, "Protected Content"},
+    {41101, "If you are selling or donating this computer, deauthorize it to prevent Corvane Player from playing previously viewed protected content, such as movies or music you may have purchased."},
+    {41102, "Learn more about protected content"},
+    {41103, "Deauthorize This Computer…"},
+    {41104, "Deauthorize This Computer"},
+    {41105, "Deauthorizing prevents Corvane Player from playing protected content, such as movies and music you may have rented or purchased. After deauthorizing, you will need to obtain new licenses from content providers to play protected content in Corvane Player."},
+    {41106, "Close all browsers before deauthorizing your computer."},
+    // Adding a peer-assisted networking setting for a site
+    {41200, "Add Peer-assisted Networking Setting by Site"},
+    {41201, "When this site wants to use peer-assisted networking:"},
+    {41202, "Allow the site to use peer-assisted networking (recommended)"},
+    {41203, "Prompt before allowing the site to use peer-assisted networking"},
+    {41204, "Block the site from using peer-assisted networking"},
+    // Advanced page: browsing data and updates
+    {51000, "Advanced"},
+    {51100, "Browsing Data and Settings"},
+    {51101, "Delete all local storage, saved choices, settings, and other data used by content in Corvane Player across all browsers on this computer."},
+    {51200, "Updates"},
+    {51201, "Corvane Player can automatically check for updates to help protect your computer. Not updating may leave this computer vulnerable to security threats."},
+    {51202, "Install updates automatically when available (recommended)"},
+    {51203, "Never check for updates (not recommended)"},
+    {51204, "Updates are never checked for automatically. This override is set in your rql.cfg file, possibly by your system administrator."},
+    {51205, "Check Now"},
+    {51206, "Check for updates to help protect your computer and benefit from new enhancements to Corvane Player."},
+    {51207, "Change Update Settings"},
+    {51208, "Notify me when updates are available"},
+    {51209, "Check for updates automatically (recommended)"},
+    // Installed version of the player
+    {51300, "Tessary Corvane Player %s is installed on this computer."},
+    {51301, "Unable to determine the version of Tessary Corvane Player installed on this computer."},
+    {51302, "Tessary Corvane Player is not installed on this computer."},
+    // Developer tools
+    {51400, "Developer Tools"},
+    {51401, "Specify trusted locations for developer testing."},
+    {51402, "Trusted Location Settings…"},
+    // Versions of the plug-in
+    {52000, "ActiveX Version:"},
+    {52001, "Plug-in Version:"},
+    {52002, "Not installed"},
+    {53000, "Plug-in version %s is installed."},
+    {53001, "Plug-in is not installed."},
+    // Site lists: column heads, titles, explanations
+    {61000, "Website"},
+    {61001, "Camera and Mic Access"},
+    {61002, "Network Access"},
+    {61003, "Storage Access"},
+    {61004, "Storage Used"},
+    {61005, "Camera and Microphone Settings by Site"},
+    {61006, "Previously visited websites that have asked to use the camera or microphone are listed below. You can allow or block the use of the camera and microphone by specific sites. Remove a site to delete all settings and data for that site in Corvane Player."},
+    {61007, "Peer-assisted Networking Settings by Site"},
+    {61008, "Previously visited websites that have asked to use peer-assisted networking are listed below. You can allow or block the use of peer-assisted networking by specific sites. Remove a site to delete all settings and data for that site in Corvane Player."},
+    {61009, "Local Storage Settings by Site"},
+    {61010, "Previously visited websites using local storage are listed below. You can allow or block the use of local storage by specific sites. Remove a site to delete all settings and data for that site in Corvane Player."},
+    {61011, "When the selected site wants to use a camera or microphone:"},
+    {61012, "When the selected site wants to use peer-assisted networking:"},
+    {61013, "When the selected site wants to use local storage:"},
+    // Deleting all site data
+    {71000, "Delete All Site Data in Corvane Player"},
+    {71001, "Delete the following items in all browsers:"},
+    {71002, "Delete All Site Data and Settings"},
+    {71003, "Deletes local storage, camera and microphone settings, and peer-assisted network settings. Local Storage may be used by websites to save data about this computer’s use of Corvane Player, such as viewing history, game progress, saved work, preferences, or data that identifies this computer. To preserve important data, you can remove local storage on a site-by-site basis in the Storage tab."},
+    {71004, "Deletes local storage, camera and microphone settings, and peer-assisted network settings."},
+    {71005, "Local Storage may be used by websites to save data about this computer’s use of Corvane Player, such as viewing history, game progress, saved work, preferences, or data that identifies this computer."},
+    {71006, "To preserve important data, you can remove local storage on a site-by-site basis in the Storage tab."},
+    {71007, "Delete All Audio and Video License Files"},
+    {71008, "Deletes all license files to prevent Corvane Player from playing protected content, such as movies and music you may have rented or purchased. Close all browsers before deleting these files."},
+    {71009, "To clear all browsing history, also clear history data in your browsers."},
+    // Trusted locations
+    {81000, "Trusted Location Settings"},
+    {81001, "For security, Corvane Player blocks content from accessing both files on this computer and the Internet. Developers can add exceptions below for trusted content."},
+    {81002, "Learn more about Trusted Locations"},
+    {81003, "Trusted File or Folder Location"},
+    {81004, "Reset License Files"},
+    {81005, "Reset"},
+    // Choosing trusted files and folders
+    {82000, "KBX Files (*.kbx)"},
+    {82001, "*.kbx"},
+    {82002, "Location"},
+    {83000, "Choose the trusted directory"},
+    {83001, "Choose the trusted file"},
+    // Editing a trusted location
+    {84000, "Edit Compatibility Location"},
+    {84001, "Trust this location and allow it to use Corvane Player 7 compatible security settings:"},
+    // Adding a site
+    {91000, "Website Domain:"},
+    {91001, "Example: www.example.com, example.com"},
+    {92000, "Add Site"},
+    {92001, "Add Local Storage Setting by Site"},
+    {92002, "Add Camera and Microphone Setting by Site"},
+    {92003, "Add Peer-assisted Networking Setting by Site"},
+};
+// clang-format on
+
+}  // namespace NCPStrings
