@@ -1,0 +1,37 @@
+#include "model/permission_setting.h"
+
+#include <utility>
+
+#include "store/setting_keys.h"
+
+const PermissionSetting::Keys PermissionSetting::kCameraAndMic = {
+    SASM::kCameraAlways, SASM::kCameraAllow};
+const PermissionSetting::Keys PermissionSetting::kPeerAssistedNetworking = {
+    SASM::kP2PAlways, SASM::kP2PAllow};
+
+PermissionSetting::PermissionSetting(const char* always_key,
+                                     const char* allow_key,
+                                     SASM::SimpleString domain)
+    : SettingBase("", std::move(domain)),
+      always_key_(always_key),
+      allow_key_(allow_key) {}
+
+PermissionSetting::PermissionSetting(const Keys& keys,
+                                     SASM::SimpleString domain)
+    : PermissionSetting(keys.always, keys.allow, std::move(domain)) {}
+
+PermissionSetting::_SettingsPermissionState PermissionSetting::getState() {
+  const bool always = getBoolValue(always_key_);
+  return StateOf(always, always && getBoolValue(allow_key_));
+}
+
+PermissionSetting::_SettingsPermissionState PermissionSetting::StateOf(
+    bool always, bool allow) {
+  if (!always) return kPermissionStateAlwaysAsk;
+  return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
+}
+
+void PermissionSetting::setState(_SettingsPermissionState state) {
+  setBoolValue(state != kPermissionStateAlwaysAsk, always_key_);
+  setBoolValue(state == kPermissionStateAlwaysAllow, allow_key_);
+}

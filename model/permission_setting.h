@@ -1,0 +1,42 @@
+// A permission of a site, kept as two booleans.
+#pragma once
+
+#include "model/setting_base.h"
+
+// `always` says whether the decision is fixed or the user is asked each time;
+// `allow` says what a fixed decision is. Missing ones count as false.
+class PermissionSetting : public SettingBase {
+ public:
+  // The numbers are those of the permission choices in lists and combo boxes.
+  enum _SettingsPermissionState : int {  // NOLINT(bugprone-reserved-identifier)
+    kPermissionStateNone = 0,
+    kPermissionStateAlwaysDeny = 1,
+    kPermissionStateAlwaysAsk = 2,
+    kPermissionStateAlwaysAllow = 3,
+  };
+
+  // The two keys of one permission.
+  struct Keys {
+    const char* always;
+    const char* allow;
+  };
+  static const Keys kCameraAndMic;
+  static const Keys kPeerAssistedNetworking;
+
+  PermissionSetting(const char* always_key, const char* allow_key,
+                    SASM::SimpleString domain);
+  PermissionSetting(const Keys& keys, SASM::SimpleString domain);
+
+  [[nodiscard]] _SettingsPermissionState getState();
+  // Writes `always`, then `allow`, each on its own. Any state but Ask and
+  // Allow is written as Block.
+  void setState(_SettingsPermissionState state);
+
+  // What the two booleans mean.
+  [[nodiscard]] static _SettingsPermissionState StateOf(bool always,
+                                                        bool allow);
+
+ private:
+  SASM::SimpleString always_key_;
+  SASM::SimpleString allow_key_;
+};
