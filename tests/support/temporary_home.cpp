@@ -1,0 +1,64 @@
+#include "tests/support/temporary_home.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+namespace fs = std::filesystem;
+
+TemporaryHome::TemporaryHome() {
+  std::string pattern = fs::temp_directory_path() / "home-XXXXXX";
+  path_ = mkdtemp(pattern.data());
+  if (const char* home = std::getenv("HOME")) former_home_ = home;
+  setenv("HOME", path_.c_str(), 1);
+}
+
+TemporaryHome::~TemporaryHome() {
+  setenv("HOME", former_home_.c_str(), 1);
+  // Tests take permissions away, and make trees too deep for a path.
+  const std::string quoted = "'" + path_.string() + "'";
+  const std::string command =
+      "chmod -R u+rwx " + quoted + " 2>/dev/null; rm -rf " + quoted;
+  EXPECT_EQ(std::system(command.c_str()), 0);
+}
+
+std::string TemporaryHome::operator/(const std::string& name) const {
+  return path_ / name;
+}
+
+void TemporaryHome::Write(const std::string& name,
+                          const std::string& bytes) const {
+  const fs::path file = path_ / name;
+  fs::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary) << bytes;
+}
+
+std::string TemporaryHome::Read(const std::string& name) const {
+  std::ifstream file(path_ / name, std::ios::binary);
+  EXPECT_TRUE(file) << name;
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool TemporaryHome::Has(const std::string& name) const {
+  return fs::exists(fs::symlink_status(path_ / name));
+}
+
+std::vector<std::string> TemporaryHome::List() const {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+    names.push_back(entry.path().lexically_relative(path_));
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+std::string TemporaryHome::MasterFile() {
+  return std::string(kSettings) + "/settings.sol";
+}
+
+std::string TemporaryHome::SettingsFileOf(const std::string& domain) {
+  return std::string(kSettings) + "/#" + domain + "/settings.sol";
+}
