@@ -1,0 +1,60 @@
+#include "app/dialogs.h"
+
+namespace {
+
+// How much narrower than its first allocation a label may later become.
+constexpr int kWrappedLabelSlack = 10;  // pixels
+
+}  // namespace
+
+GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
+                             const char* message_format, GError* error) {
+  const std::string message = fill_placeholder(
+      message_format ? message_format : "Error", error ? error->message : "");
+  GtkWidget* dialog = gtk_message_dialog_new(
+      parent, GTK_DIALOG_DESTROY_WITH_PARENT, GTK_MESSAGE_ERROR,
+      GTK_BUTTONS_CLOSE, "%s", message.c_str());
+  if (title) gtk_window_set_title(GTK_WINDOW(dialog), title);
+  g_signal_connect(dialog, "response", G_CALLBACK(gtk_widget_destroy), nullptr);
+  gtk_window_set_resizable(GTK_WINDOW(dialog), FALSE);
+  gtk_widget_show(dialog);
+  if (error) g_error_free(error);
+  return dialog;
+}
+
+bool run_dialog(GnomeTCCapplet* panel, const char* dialog_id) {
+  GtkWidget* dialog = get_widget(panel->builder, dialog_id);
+  const int response = gtk_dialog_run(GTK_DIALOG(dialog));
+  gtk_widget_hide(dialog);
+  return response == GTK_RESPONSE_OK;
+}
+
+void show_dialog_over(GnomeTCCapplet* panel, const char* dialog_id,
+                      const char* parent_id, int title_string_id) {
+  GtkWidget* dialog = get_widget(panel->builder, dialog_id);
+  GtkWidget* parent = get_widget(panel->builder, parent_id);
+  gtk_window_set_transient_for(GTK_WINDOW(dialog), GTK_WINDOW(parent));
+  if (title_string_id != 0) {
+    set_window_title(panel, dialog_id, title_string_id, nullptr);
+  }
+  gtk_widget_show(dialog);
+}
+
+extern "C" G_MODULE_EXPORT void dialog_button_cb(GtkDialog* dialog, gint,
+                                                 GnomeTCCapplet* panel) {
+  if (GTK_WIDGET(dialog) != panel->window) {
+    gtk_widget_hide(GTK_WIDGET(dialog));
+    return;
+  }
+  gtk_widget_destroy(panel->window);
+  gtk_main_quit();
+}
+
+extern "C" G_MODULE_EXPORT void wrapped_label_size_allocate_fix(
+    GtkWidget* label, GtkAllocation* allocation, gpointer user_data) {
+  gtk_widget_set_size_request(label, allocation->width - kWrappedLabelSlack,
+                              -1);
+  g_signal_handlers_disconnect_by_func(
+      label, reinterpret_cast<gpointer>(wrapped_label_size_allocate_fix),
+      user_data);
+}

@@ -1,0 +1,114 @@
+#include "app/list_presentation.h"
+
+#include <gdk/gdkkeysyms.h>
+
+#include <string>
+
+#include "app/display_text.h"
+#include "app/widget_helpers.h"
+
+namespace {
+
+constexpr int kNameColumn = 0;
+
+// A tooltip of a longer name would not fit a screen.
+constexpr glong kLongestTooltip = 4096;  // characters
+
+struct List {
+  const char* tree_view;
+  // Shows the names of column 0.
+  const char* column;
+  const char* renderer;
+  const char* remove_button;
+  // What a screen reader calls the list: the title of its dialog.
+  int name_id;
+};
+
+constexpr List kLists[] = {
+    {"site_storage_treeview", "site_storage_site_column",
+     "cellrenderer_storage_website", "remove_site_storage_setting_button",
+     61009},
+    {"site_privacy_treeview", "site_privacy_site_column",
+     "cellrenderer_website", "remove_site_privacy_setting_button", 61005},
+    {"site_p2p_treeview", "site_p2p_site_column", "p2p_cellrenderer_website3",
+     "remove_site_p2p_setting_button", 61007},
+    {"trusted_locations_treeview", "trusted_location_column",
+     "trusted_location", "remove_trusted_location_button", 81000},
+};
+
+void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
+              GtkTreeModel* model, GtkTreeIter* row, gpointer) {
+  const SASM::SimpleString name = get_text_field(model, row, kNameColumn);
+  g_object_set(renderer, "text", display_text(name.c_str()).c_str(), nullptr);
+}
+
+gboolean ShowWholeName(GtkWidget* view, gint x, gint y, gboolean keyboard_mode,
+                       GtkTooltip* tooltip, gpointer) {
+  GtkTreeModel* model = nullptr;
+  GtkTreePath* path = nullptr;
+  GtkTreeIter row;
+  if (!gtk_tree_view_get_tooltip_context(GTK_TREE_VIEW(view), &x, &y,
+                                         keyboard_mode, &model, &path, &row)) {
+    return FALSE;
+  }
+  const std::string name =
+      display_text(get_text_field(model, &row, kNameColumn).c_str());
+  const char* end =
+      g_utf8_strlen(name.c_str(), -1) > kLongestTooltip
+          ? g_utf8_offset_to_pointer(name.c_str(), kLongestTooltip)
+          : name.c_str() + name.size();
+  // As text, so that nothing in a name counts as markup.
+  gtk_tooltip_set_text(tooltip, std::string(name.c_str(), end).c_str());
+  gtk_tree_view_set_tooltip_row(GTK_TREE_VIEW(view), tooltip, path);
+  gtk_tree_path_free(path);
+  return TRUE;
+}
+
+gboolean RemoveOnDelete(GtkWidget*, GdkEventKey* event, gpointer button) {
+  const bool is_delete =
+      event->keyval == GDK_Delete || event->keyval == GDK_KP_Delete;
+  if (!is_delete || !gtk_widget_is_sensitive(GTK_WIDGET(button))) return FALSE;
+  gtk_button_clicked(GTK_BUTTON(button));
+  return TRUE;
+}
+
+// Not of subclasses, whose selection is their own affair.
+void AllowSeveralRows(GtkBuilder* builder) {
+  GSList* objects = gtk_builder_get_objects(builder);
+  for (GSList* node = objects; node; node = node->next) {
+    if (G_OBJECT_TYPE(node->data) != GTK_TYPE_TREE_VIEW) continue;
+    gtk_tree_selection_set_mode(
+        gtk_tree_view_get_selection(GTK_TREE_VIEW(node->data)),
+        GTK_SELECTION_MULTIPLE);
+  }
+  g_slist_free(objects);
+}
+
+}  // namespace
+
+void prepare_lists(GnomeTCCapplet* panel) {
+  AllowSeveralRows(panel->builder);
+  for (const List& list : kLists) {
+    GtkWidget* view = get_widget(panel->builder, list.tree_view);
+    GObject* column =
+        get_object(panel->builder, list.column, GTK_TYPE_TREE_VIEW_COLUMN);
+    GObject* renderer =
+        get_object(panel->builder, list.renderer, GTK_TYPE_CELL_RENDERER);
+    gtk_tree_view_column_set_cell_data_func(GTK_TREE_VIEW_COLUMN(column),
+                                            GTK_CELL_RENDERER(renderer),
+                                            ShowName, nullptr, nullptr);
+    gtk_widget_set_has_tooltip(view, TRUE);
+    g_signal_connect(view, "query-tooltip", G_CALLBACK(ShowWholeName), nullptr);
+    g_signal_connect(view, "key-press-event", G_CALLBACK(RemoveOnDelete),
+                     get_widget(panel->builder, list.remove_button));
+  }
+}
+
+void set_accessible_names(GnomeTCCapplet* panel) {
+  for (const List& list : kLists) {
+    const char* name = text_or(panel, list.name_id, nullptr);
+    AtkObject* accessible =
+        gtk_widget_get_accessible(get_widget(panel->builder, list.tree_view));
+    if (name) atk_object_set_name(accessible, name);
+  }
+}

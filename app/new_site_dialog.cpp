@@ -1,0 +1,94 @@
+// The dialog that adds a site, shared by the three site dialogs.
+#include "app/dialogs.h"
+#include "app/notebook_pages.h"
+#include "app/site_lists.h"
+
+using SASM::SimpleString;
+
+namespace {
+
+constexpr char kDialog[] = "new_site_dialog";
+constexpr char kEntry[] = "new_site_entry";
+constexpr char kPermission[] = "new_site_permission";
+constexpr char kAddButton[] = "new_site_add_button";
+
+// Column of the list store permission_settings, the combo box's model.
+constexpr int kChoiceStateColumn = 2;
+
+GtkComboBox* get_combo_box(GnomeTCCapplet* panel, const char* combo_box_id) {
+  return GTK_COMBO_BOX(
+      get_object(panel->builder, combo_box_id, GTK_TYPE_COMBO_BOX));
+}
+
+// The rows stand in the order of the states, which begin at 1.
+void set_combo_permission_enum(GnomeTCCapplet* panel, const char* combo_box_id,
+                               PermissionState state) {
+  gtk_combo_box_set_active(get_combo_box(panel, combo_box_id), state - 1);
+}
+
+// None when no row is active.
+PermissionState get_combo_permission_enum(GnomeTCCapplet* panel,
+                                          const char* combo_box_id) {
+  GtkComboBox* combo_box = get_combo_box(panel, combo_box_id);
+  int state = PermissionSetting::kPermissionStateNone;
+  GtkTreeIter active;
+  if (gtk_combo_box_get_active_iter(combo_box, &active)) {
+    gtk_tree_model_get(gtk_combo_box_get_model(combo_box), &active,
+                       kChoiceStateColumn, &state, -1);
+  }
+  return static_cast<PermissionState>(state);
+}
+
+void AskForSite(GnomeTCCapplet* panel, SitePermissionMode mode) {
+  const SitePermission& list = kSitePermissions[mode];
+  set_sensitive(panel, kAddButton, false);
+  set_combo_permission_enum(panel, kPermission, list.preset());
+  set_label_text(panel, "new_site_permission_label", list.new_site_label,
+                 nullptr, nullptr);
+  GtkWidget* entry = get_widget(panel->builder, kEntry);
+  gtk_entry_set_text(GTK_ENTRY(entry), "");
+  gtk_window_set_focus(GTK_WINDOW(get_widget(panel->builder, kDialog)), entry);
+  show_dialog_over(panel, kDialog, list.dialog, list.new_site_title);
+  panel->new_site_mode = mode;
+}
+
+}  // namespace
+
+extern "C" {
+
+G_MODULE_EXPORT void on_add_site_storage_setting_button_clicked(
+    GtkButton*, GnomeTCCapplet* panel) {
+  AskForSite(panel, kStorageMode);
+}
+
+G_MODULE_EXPORT void on_add_site_privacy_setting_button_clicked(
+    GtkButton*, GnomeTCCapplet* panel) {
+  AskForSite(panel, kCameraAndMicMode);
+}
+
+G_MODULE_EXPORT void on_add_site_p2p_setting_button_clicked(
+    GtkButton*, GnomeTCCapplet* panel) {
+  AskForSite(panel, kPeerAssistedMode);
+}
+
+G_MODULE_EXPORT void on_new_site_entry_changed(GtkEditable* entry,
+                                               GnomeTCCapplet* panel) {
+  const char* domain = gtk_entry_get_text(GTK_ENTRY(entry));
+  set_sensitive(panel, kAddButton, *domain != '\0');
+}
+
+G_MODULE_EXPORT void on_new_site_add_button_clicked(GtkButton*,
+                                                    GnomeTCCapplet* panel) {
+  if (panel->new_site_mode < 0 ||
+      panel->new_site_mode >= static_cast<int>(G_N_ELEMENTS(kSitePermissions)))
+    return;
+  const SimpleString domain =
+      gtk_entry_get_text(GTK_ENTRY(get_widget(panel->builder, kEntry)));
+  // A site that could not be added is missing from the list that follows.
+  (void)panel->settings->AddDomainWithDefaultSettings(domain);
+  kSitePermissions[panel->new_site_mode].write(
+      domain, get_combo_permission_enum(panel, kPermission));
+  update_notebook_page(panel, kCurrentPage);
+}
+
+}  // extern "C"

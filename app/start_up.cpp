@@ -1,0 +1,84 @@
+#include "app/start_up.h"
+
+#include <string>
+
+#include "app/dialogs.h"
+#include "app/icons.h"
+#include "app/notebook_pages.h"
+#include "app/ui_definition.h"
+#include "store/setting_keys.h"
+#include "strings/string_manager.h"
+
+namespace {
+
+struct Link {
+  const char* button;
+  int string_id;
+};
+
+constexpr Link kLinks[] = {
+    {"privacy_linkbutton", 13000}, {"private_browsing_linkbutton", 13004},
+    {"p2p_linkbutton", 13002},     {"drm_linkbutton", 13003},
+    {"compat_linkbutton", 13001},
+};
+
+SettingBase* NewMasterSetting(const char* key) {
+  return new SettingBase(key, SASM::SettingsManager::MasterDomain());
+}
+
+}  // namespace
+
+GnomeTCCapplet* new_panel() {
+  auto* panel = g_new0(GnomeTCCapplet, 1);
+  panel->strings = new StringManager;
+  return panel;
+}
+
+void open_settings(GnomeTCCapplet* panel) {
+  panel->builder = gtk_builder_new();
+  panel->updating = false;
+  panel->p2p_uplink = NewMasterSetting(SASM::kDisallowP2PUplink);
+  panel->trusted_paths = NewMasterSetting(SASM::kTrustedPaths);
+  panel->settings = SettingBase::mSettingsManager;
+  panel->selected_rows = nullptr;
+}
+
+bool load_ui(GnomeTCCapplet* panel) {
+  GError* error = nullptr;
+  if (gtk_builder_add_from_string(
+          panel->builder, gnome_tessary_corvane_properties_ui,
+          gnome_tessary_corvane_properties_ui_len, &error) == 0) {
+    GtkWidget* dialog = show_error_dialog(
+        nullptr, nullptr, "There was an error loading the UI: %s", error);
+    g_signal_connect(dialog, "destroy", G_CALLBACK(gtk_main_quit), nullptr);
+    return false;
+  }
+  panel->window = get_widget(panel->builder, "tessary_corvane_dialog");
+  return true;
+}
+
+void connect_signals(GnomeTCCapplet* panel) {
+  gtk_builder_connect_signals(panel->builder, panel);
+}
+
+void select_page(GnomeTCCapplet* panel, const char* page_name) {
+  GtkNotebook* notebook =
+      GTK_NOTEBOOK(get_widget(panel->builder, "tessary_corvane_notebook"));
+  int page = kStoragePage;
+  if (page_name) {
+    const std::string id = std::string(page_name) + "_vbox";
+    GObject* box = gtk_builder_get_object(panel->builder, id.c_str());
+    // -1, of a box that is no page, stands for the last page.
+    if (GTK_IS_WIDGET(box))
+      page = gtk_notebook_page_num(notebook, GTK_WIDGET(box));
+    gtk_notebook_set_current_page(notebook, page);
+  }
+  // Of another page the switch has filled the lists.
+  if (page == kStoragePage) update_notebook_page(panel, kStoragePage);
+}
+
+void set_links(GnomeTCCapplet* panel) {
+  for (const Link& link : kLinks) {
+    set_link_URL(panel, link.button, link.string_id);
+  }
+}

@@ -1,0 +1,181 @@
+#include "app/trusted_locations.h"
+
+#include <cerrno>
+#include <cstdlib>
+
+#include "app/detached_list.h"
+#include "app/dialogs.h"
+#include "app/display_text.h"
+#include "app/notebook_pages.h"
+#include "app/site_lists.h"
+
+using SASM::SDIVector;
+using SASM::SettingDataItem;
+
+namespace {
+
+constexpr char kRemoveButton[] = "remove_trusted_location_button";
+constexpr char kListStore[] = "trusted_locations";
+constexpr char kTreeView[] = "trusted_locations_treeview";
+constexpr int kLocationColumn = 0;
+
+SettingDataItem MakeLocation(const char* path) {
+  const bool trusted = true;
+  return {path, SASM::kSettingsDataTypeBool, &trusted};
+}
+
+// The list is changed in place and then stored whole.
+void StoreLocations(GnomeTCCapplet* panel, SDIVector* locations) {
+  panel->trusted_paths->setVectorValue(locations);
+  update_notebook_page(panel, kCurrentPage);
+}
+
+void AddLocation(GnomeTCCapplet* panel, const char* path) {
+  SDIVector* locations = panel->trusted_paths->getVectorValue();
+  if (!locations) return;
+  const SettingDataItem location = MakeLocation(path);
+  locations->addElement(&location);
+  panel->trusted_paths->setVectorValue(locations);
+}
+
+void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
+                    int title_id, const char* title_fallback) {
+  GtkWidget* parent = get_widget(panel->builder, "compat_settings_dialog");
+  GtkWidget* chooser = gtk_file_chooser_dialog_new(
+      text_or(panel, title_id, title_fallback), GTK_WINDOW(parent), action,
+      "gtk-cancel", GTK_RESPONSE_CANCEL, "gtk-open", GTK_RESPONSE_ACCEPT,
+      nullptr);
+  gtk_dialog_set_default_response(GTK_DIALOG(chooser), GTK_RESPONSE_ACCEPT);
+  if (gtk_dialog_run(GTK_DIALOG(chooser)) == GTK_RESPONSE_ACCEPT) {
+    // Null for what has no local path.
+    char* path = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(chooser));
+    if (path) AddLocation(panel, path);
+    g_free(path);
+  }
+  gtk_widget_destroy(chooser);
+  update_notebook_page(panel, kCurrentPage);
+}
+
+// An edit that changes nothing of what the list shows: the location may hold
+// bytes that can only be shown replaced.
+bool IsAsShown(const SettingDataItem& location, const char* text) {
+  return display_text(location.name.c_str()) == text;
+}
+
+bool IsCollected(const GnomeTCCapplet* panel, guint32 index) {
+  const SelectedRow* row = panel->selected_rows;
+  while (row && row->index != index) row = row->next;
+  return row != nullptr;
+}
+
+// The list index behind a row: the row's own, unless the user has sorted the
+// rows; then that of an entry of the row's text which is not collected yet.
+guint32 ListIndexOf(const GnomeTCCapplet* panel, const SDIVector& locations,
+                    guint32 row_index, const SASM::SimpleString& text) {
+  if (row_index < locations.count && locations.At(row_index)->name == text &&
+      !IsCollected(panel, row_index)) {
+    return row_index;
+  }
+  for (guint32 i = 0; i < locations.count; ++i) {
+    if (locations.At(i)->name == text && !IsCollected(panel, i)) return i;
+  }
+  return locations.count;
+}
+
+// Keeps selected_rows in descending order, so that every removal leaves the
+// indices that follow valid.
+void Collect(GnomeTCCapplet* panel, guint32 index) {
+  SelectedRow** place = &panel->selected_rows;
+  while (*place && (*place)->index > index) place = &(*place)->next;
+  *place = new SelectedRow{index, *place};
+}
+
+// Beyond every list when there is no such row.
+guint32 ListIndexOf(GnomeTCCapplet* panel, GtkTreeModel* model,
+                    unsigned long row_index) {
+  GtkTreeIter row;
+  const SDIVector* locations = panel->trusted_paths->getVectorValue();
+  if (!locations || row_index > G_MAXINT32 ||
+      !gtk_tree_model_iter_nth_child(model, &row, nullptr,
+                                     static_cast<int>(row_index))) {
+    return G_MAXUINT32;
+  }
+  return ListIndexOf(panel, *locations, static_cast<guint32>(row_index),
+                     get_text_field(model, &row, kLocationColumn));
+}
+
+void collect_selected_row(GtkTreeModel* model, GtkTreePath* path, GtkTreeIter*,
+                          gpointer data) {
+  auto* panel = static_cast<GnomeTCCapplet*>(data);
+  const int row_index = gtk_tree_path_get_indices(path)[0];
+  Collect(panel,
+          ListIndexOf(panel, model, static_cast<unsigned long>(row_index)));
+}
+
+void RemoveCollectedRows(GnomeTCCapplet* panel, SDIVector* locations) {
+  while (SelectedRow* row = panel->selected_rows) {
+    if (locations) locations->removeElementAtIndex(row->index);
+    panel->selected_rows = row->next;
+    delete row;
+  }
+}
+
+}  // namespace
+
+void fill_trusted_locations(GnomeTCCapplet* panel) {
+  set_sensitive(panel, kRemoveButton, false);
+  GtkListStore* store = get_list_store(panel->builder, kListStore);
+  const DetachedList detached(get_tree_view(panel->builder, kTreeView), store);
+  const SDIVector* locations = panel->trusted_paths->getVectorValue();
+  for (unsigned int i = 0; locations && i < locations->count; ++i) {
+    gtk_list_store_insert_with_values(store, nullptr, G_MAXINT, kLocationColumn,
+                                      locations->At(i)->name.c_str(), -1);
+  }
+}
+
+extern "C" {
+
+G_MODULE_EXPORT void on_trusted_locations_treeview_cursor_changed(
+    GtkTreeView*, GnomeTCCapplet* panel) {
+  if (!panel->updating) set_sensitive(panel, kRemoveButton, true);
+}
+
+G_MODULE_EXPORT void on_add_trusted_location_button_clicked(
+    GtkButton*, GnomeTCCapplet* panel) {
+  ChooseLocation(panel, GTK_FILE_CHOOSER_ACTION_SELECT_FOLDER, 83000,
+                 "Choose the trusted directory");
+}
+
+G_MODULE_EXPORT void on_add_trusted_file_button_clicked(GtkButton*,
+                                                        GnomeTCCapplet* panel) {
+  ChooseLocation(panel, GTK_FILE_CHOOSER_ACTION_OPEN, 83001,
+                 "Choose the trusted file");
+}
+
+G_MODULE_EXPORT void on_trusted_location_edited(GtkCellRendererText*,
+                                                const char* path,
+                                                const char* text,
+                                                GnomeTCCapplet* panel) {
+  SDIVector* locations = panel->trusted_paths->getVectorValue();
+  if (*text == '\0' || !locations) return;
+  errno = 0;
+  const unsigned long row_index = std::strtoul(path, nullptr, 10);
+  if (errno != 0) return;
+  GtkListStore* store = get_list_store(panel->builder, kListStore);
+  const guint32 index = ListIndexOf(panel, GTK_TREE_MODEL(store), row_index);
+  if (index < locations->count) {
+    if (IsAsShown(*locations->At(index), text)) return;
+    locations->ReplaceElementAtIndex(index, MakeLocation(text));
+  }
+  StoreLocations(panel, locations);
+}
+
+G_MODULE_EXPORT void on_remove_trusted_location_button_clicked(
+    GtkButton*, GnomeTCCapplet* panel) {
+  SDIVector* locations = panel->trusted_paths->getVectorValue();
+  for_each_selected(panel, kTreeView, collect_selected_row, panel);
+  RemoveCollectedRows(panel, locations);
+  StoreLocations(panel, locations);
+}
+
+}  // extern "C"
