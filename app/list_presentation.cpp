@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/display_text.h"
+#include "app/selection_editing.h"
 #include "app/widget_helpers.h"
 
 namespace {
@@ -20,6 +21,8 @@ struct List {
   const char* column;
   const char* renderer;
   const char* remove_button;
+  // Shows a choice for each row, null where there is none.
+  const char* choice_column;
   // What a screen reader calls the list: the title of its dialog.
   int name_id;
 };
@@ -27,13 +30,14 @@ struct List {
 constexpr List kLists[] = {
     {"site_storage_treeview", "site_storage_site_column",
      "cellrenderer_storage_website", "remove_site_storage_setting_button",
-     61009},
+     "site_storage_permission_column", 61009},
     {"site_privacy_treeview", "site_privacy_site_column",
-     "cellrenderer_website", "remove_site_privacy_setting_button", 61005},
+     "cellrenderer_website", "remove_site_privacy_setting_button",
+     "site_privacy_cam_and_mic_column", 61005},
     {"site_p2p_treeview", "site_p2p_site_column", "p2p_cellrenderer_website3",
-     "remove_site_p2p_setting_button", 61007},
+     "remove_site_p2p_setting_button", "site_p2p_permission_column", 61007},
     {"trusted_locations_treeview", "trusted_location_column",
-     "trusted_location", "remove_trusted_location_button", 81000},
+     "trusted_location", "remove_trusted_location_button", nullptr, 81000},
 };
 
 void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
@@ -89,18 +93,19 @@ void AllowSeveralRows(GtkBuilder* builder) {
 void prepare_lists(GnomeTCCapplet* panel) {
   AllowSeveralRows(panel->builder);
   for (const List& list : kLists) {
-    GtkWidget* view = get_widget(panel->builder, list.tree_view);
-    GObject* column =
-        get_object(panel->builder, list.column, GTK_TYPE_TREE_VIEW_COLUMN);
+    GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
     GObject* renderer =
         get_object(panel->builder, list.renderer, GTK_TYPE_CELL_RENDERER);
-    gtk_tree_view_column_set_cell_data_func(GTK_TREE_VIEW_COLUMN(column),
-                                            GTK_CELL_RENDERER(renderer),
-                                            ShowName, nullptr, nullptr);
-    gtk_widget_set_has_tooltip(view, TRUE);
+    gtk_tree_view_column_set_cell_data_func(
+        get_column(panel->builder, list.column), GTK_CELL_RENDERER(renderer),
+        ShowName, nullptr, nullptr);
+    gtk_widget_set_has_tooltip(GTK_WIDGET(view), TRUE);
     g_signal_connect(view, "query-tooltip", G_CALLBACK(ShowWholeName), nullptr);
     g_signal_connect(view, "key-press-event", G_CALLBACK(RemoveOnDelete),
                      get_widget(panel->builder, list.remove_button));
+    if (!list.choice_column) continue;
+    keep_selection_when_editing(view,
+                                get_column(panel->builder, list.choice_column));
   }
 }
 

@@ -89,9 +89,7 @@ void prepare_list_sorting(GnomeTCCapplet* panel) {
     tree_model_set_column_comparator(panel, list, compare_int_column, 2, -1);
   }
   for (const SortableColumn& row : kSortableColumns) {
-    GObject* column =
-        get_object(panel->builder, row.column, GTK_TYPE_TREE_VIEW_COLUMN);
-    gtk_tree_view_column_set_sort_column_id(GTK_TREE_VIEW_COLUMN(column),
-                                            row.sort_id);
+    gtk_tree_view_column_set_sort_column_id(
+        get_column(panel->builder, row.column), row.sort_id);
   }
 }

@@ -35,6 +35,11 @@ GtkTreeView* get_tree_view(GtkBuilder* builder, const char* id) {
   return GTK_TREE_VIEW(get_object(builder, id, GTK_TYPE_TREE_VIEW));
 }
 
+GtkTreeViewColumn* get_column(GtkBuilder* builder, const char* id) {
+  return GTK_TREE_VIEW_COLUMN(
+      get_object(builder, id, GTK_TYPE_TREE_VIEW_COLUMN));
+}
+
 const char* text_or(GnomeTCCapplet* panel, int string_id,
                     const char* fallback) {
   const char* text = panel->strings->GetString(string_id);
@@ -84,9 +89,8 @@ void set_label_text(GnomeTCCapplet* panel, const char* label_id, int string_id,
 void set_column_title(GnomeTCCapplet* panel, const char* column_id,
                       int string_id, const char* fallback) {
   const char* text = text_or(panel, string_id, fallback);
-  GObject* column =
-      get_object(panel->builder, column_id, GTK_TYPE_TREE_VIEW_COLUMN);
-  if (text) gtk_tree_view_column_set_title(GTK_TREE_VIEW_COLUMN(column), text);
+  GtkTreeViewColumn* column = get_column(panel->builder, column_id);
+  if (text) gtk_tree_view_column_set_title(column, text);
 }
 
 void set_list_store_text(GnomeTCCapplet* panel, const char* store_id,

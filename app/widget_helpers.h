@@ -18,6 +18,7 @@ GObject* get_object(GtkBuilder* builder, const char* id, GType type);
 GtkWidget* get_widget(GtkBuilder* builder, const char* id);
 GtkListStore* get_list_store(GtkBuilder* builder, const char* id);
 GtkTreeView* get_tree_view(GtkBuilder* builder, const char* id);
+GtkTreeViewColumn* get_column(GtkBuilder* builder, const char* id);
 
 // A constant text, or null.
 const char* text_or(GnomeTCCapplet* panel, int string_id, const char* fallback);

@@ -1,0 +1,57 @@
+#include "app/selection_editing.h"
+
+namespace {
+
+bool IsPlainClick(const GdkEventButton& event) {
+  return event.type == GDK_BUTTON_PRESS && event.button == 1 &&
+         (event.state & gtk_accelerator_get_default_mod_mask()) == 0;
+}
+
+// The row under the pointer, owned by the caller, when the pointer is in the
+// column and the row is one of several selected ones; else null.
+GtkTreePath* NewClickedRow(GtkTreeView* view, const GdkEventButton& event,
+                           GtkTreeViewColumn* column) {
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
+  GtkTreePath* path = nullptr;
+  GtkTreeViewColumn* clicked = nullptr;
+  if (gtk_tree_selection_count_selected_rows(selection) < 2 ||
+      !gtk_tree_view_get_path_at_pos(view, static_cast<int>(event.x),
+                                     static_cast<int>(event.y), &path, &clicked,
+                                     nullptr, nullptr)) {
+    return nullptr;
+  }
+  if (clicked == column && gtk_tree_selection_path_is_selected(selection, path))
+    return path;
+  gtk_tree_path_free(path);
+  return nullptr;
+}
+
+gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* event,
+                              gpointer column) {
+  if (event->window != gtk_tree_view_get_bin_window(view) ||
+      !IsPlainClick(*event)) {
+    return FALSE;
+  }
+  auto* edited = GTK_TREE_VIEW_COLUMN(column);
+  GtkTreePath* path = NewClickedRow(view, *event, edited);
+  if (!path) return FALSE;
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
+  GList* rows = gtk_tree_selection_get_selected_rows(selection, nullptr);
+  gtk_widget_grab_focus(GTK_WIDGET(view));
+  gtk_tree_view_set_cursor(view, path, edited, TRUE);
+  for (GList* row = rows; row; row = row->next) {
+    auto* selected = static_cast<GtkTreePath*>(row->data);
+    gtk_tree_selection_select_path(selection, selected);
+    gtk_tree_path_free(selected);
+  }
+  g_list_free(rows);
+  gtk_tree_path_free(path);
+  return TRUE;
+}
+
+}  // namespace
+
+void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column) {
+  g_signal_connect(view, "button-press-event", G_CALLBACK(EditKeepingSelection),
+                   column);
+}
