@@ -134,7 +134,7 @@ inline constexpr TextRow kCzechTexts[] = {
     {51205, "Vyhledat nyní"},
     {51206, "Vyhledejte aktualizace, abyste lépe chránili svůj počítač a mohli využívat nová vylepšení přehrávače Corvane Player."},
     {51207, "Změnit nastavení aktualizací"},
-    {51208, "Upozornit na dostupné aktualizace"},
+    {51208, "Upozorňovat na dostupné aktualizace"},
     {51209, "Vyhledávat aktualizace automaticky (doporučeno)"},
     // Installed version of the player
     {51300, "Na tomto počítači je nainstalován přehrávač Tessary Corvane Player %s."},
@@ -169,16 +169,16 @@ inline constexpr TextRow kCzechTexts[] = {
     {71000, "Smazání všech dat webů v přehrávači Corvane Player"},
     {71001, "Smazat ve všech prohlížečích následující položky:"},
     {71002, "Smazat všechna data a nastavení webů"},
-    {71003, "Smaže obsah místního úložiště, nastavení kamery a mikrofonu a nastavení komunikace peer-to-peer. Weby mohou do místního úložiště ukládat data o používání přehrávače Corvane Player na tomto počítači, například historii přehrávání, postup ve hrách, uloženou práci, předvolby nebo data, která tento počítač identifikují. Chcete-li důležitá data zachovat, můžete obsah místního úložiště odstraňovat pro jednotlivé weby na kartě „Úložiště“."},
+    {71003, "Smaže obsah místního úložiště, nastavení kamery a mikrofonu a nastavení komunikace peer-to-peer. Weby mohou do místního úložiště ukládat data o používání přehrávače Corvane Player na tomto počítači, například historii přehrávání, postup ve hrách, uloženou práci, předvolby nebo data, která tento počítač identifikují. Chcete-li důležitá data zachovat, můžete obsah místního úložiště odstraňovat po jednotlivých webech na kartě „Úložiště“."},
     {71004, "Smaže obsah místního úložiště, nastavení kamery a mikrofonu a nastavení komunikace peer-to-peer."},
     {71005, "Weby mohou do místního úložiště ukládat data o používání přehrávače Corvane Player na tomto počítači, například historii přehrávání, postup ve hrách, uloženou práci, předvolby nebo data, která tento počítač identifikují."},
-    {71006, "Chcete-li důležitá data zachovat, můžete obsah místního úložiště odstraňovat pro jednotlivé weby na kartě „Úložiště“."},
+    {71006, "Chcete-li důležitá data zachovat, můžete obsah místního úložiště odstraňovat po jednotlivých webech na kartě „Úložiště“."},
     {71007, "Smazat všechny licenční soubory zvuku a videa"},
     {71008, "Smaže všechny licenční soubory, takže přehrávač Corvane Player nebude moci přehrávat chráněný obsah, například vypůjčené nebo zakoupené filmy a hudbu. Před smazáním těchto souborů zavřete všechny prohlížeče."},
     {71009, "Chcete-li vymazat celou historii prohlížení, vymažte také historii ve svých prohlížečích."},
     // Trusted locations
     {81000, "Nastavení důvěryhodných umístění"},
-    {81001, "Přehrávač Corvane Player z bezpečnostních důvodů blokuje obsahu současný přístup k souborům na tomto počítači a k internetu. Vývojáři mohou níže přidat výjimky pro důvěryhodný obsah."},
+    {81001, "Přehrávač Corvane Player z bezpečnostních důvodů nedovoluje obsahu přistupovat zároveň k souborům na tomto počítači i k internetu. Vývojáři mohou níže přidat výjimky pro důvěryhodný obsah."},
     {81002, "Další informace o důvěryhodných umístěních"},
     {81003, "Důvěryhodný soubor nebo složka"},
     {81004, "Resetovat licenční soubory"},
@@ -190,7 +190,7 @@ inline constexpr TextRow kCzechTexts[] = {
     {83000, "Vyberte důvěryhodnou složku"},
     {83001, "Vyberte důvěryhodný soubor"},
     // Editing a trusted location
-    {84000, "Úprava umístění v režimu kompatibility"},
+    {84000, "Úprava umístění pro režim kompatibility"},
     {84001, "Důvěřovat tomuto umístění a povolit mu používat nastavení zabezpečení kompatibilní s přehrávačem Corvane Player 7:"},
     // Adding a site
     {91000, "Doména webu:"},

@@ -11,7 +11,7 @@
 //   ask .......................... vragen
 //   camera ....................... camera
 //   microphone ................... microfoon
-//   peer-assisted networking ..... peer-ondersteunde verbindingen
+//   peer-assisted networking ..... peer-to-peerverbindingen
 //   protected content ............ beschermde inhoud
 //   licence file ................. licentiebestand
 //   deauthorise .................. autorisatie intrekken
@@ -88,7 +88,7 @@ inline constexpr TextRow kDutchTexts[] = {
     {21204, "%.2f\u00A0GB"},
     // Private browsing
     {21300, "Privénavigatie"},
-    {21301, "Desgewenst kunt u tijdelijk browsen zonder lokale opslag of geschiedenis te bewaren."},
+    {21301, "Desgewenst kunt u tijdelijk browsen zonder geschiedenis of gegevens in de lokale opslag te bewaren."},
     {21302, "Meer informatie over privénavigatie"},
     // Camera and Mic page, with radio buttons
     {31000, "Camera en microfoon"},
@@ -101,12 +101,12 @@ inline constexpr TextRow kDutchTexts[] = {
     {31007, "Wanneer deze website een camera of microfoon wil gebruiken:"},
     // Playback page: peer-assisted networking
     {41000, "Afspelen"},
-    {41001, "Peer-ondersteunde verbindingen"},
-    {41002, "Met peer-ondersteunde verbindingen worden media vloeiender afgespeeld en zijn functies mogelijk die verbinding maken met andere computers, zoals chatten. Hiervoor kan extra bandbreedte worden gebruikt."},
-    {41003, "Meer informatie over peer-ondersteunde verbindingen"},
-    {41004, "Vragen wanneer een website peer-ondersteunde verbindingen wil gebruiken"},
-    {41005, "Peer-ondersteunde verbindingen voor alle websites blokkeren"},
-    {41006, "Website-instellingen voor peer-ondersteunde verbindingen…"},
+    {41001, "Peer-to-peerverbindingen"},
+    {41002, "Met peer-to-peerverbindingen worden media vloeiender afgespeeld en zijn functies mogelijk die verbinding maken met andere computers, zoals chatten. Hiervoor kan extra bandbreedte worden gebruikt."},
+    {41003, "Meer informatie over peer-to-peerverbindingen"},
+    {41004, "Vragen wanneer een website peer-to-peerverbindingen wil gebruiken"},
+    {41005, "Peer-to-peerverbindingen voor alle websites blokkeren"},
+    {41006, "Website-instellingen voor peer-to-peerverbindingen…"},
     // Protected content
     {41100, "Beschermde inhoud"},
     {41101, "Als u deze computer verkoopt of weggeeft, trek dan de autorisatie ervan in. Corvane Player kan eerder bekeken beschermde inhoud, zoals films of muziek die u hebt gekocht, dan niet meer afspelen."},
@@ -116,17 +116,17 @@ inline constexpr TextRow kDutchTexts[] = {
     {41105, "Als u de autorisatie intrekt, kan Corvane Player geen beschermde inhoud meer afspelen, zoals films en muziek die u hebt gehuurd of gekocht. Daarna hebt u nieuwe licenties van de aanbieders nodig om beschermde inhoud in Corvane Player af te spelen."},
     {41106, "Sluit alle browsers voordat u de autorisatie van uw computer intrekt."},
     // Adding a peer-assisted networking setting for a site
-    {41200, "Website-instelling voor peer-ondersteunde verbindingen toevoegen"},
-    {41201, "Wanneer deze website peer-ondersteunde verbindingen wil gebruiken:"},
-    {41202, "Peer-ondersteunde verbindingen voor de website toestaan (aanbevolen)"},
-    {41203, "Vragen voordat de website peer-ondersteunde verbindingen mag gebruiken"},
-    {41204, "Peer-ondersteunde verbindingen voor de website blokkeren"},
+    {41200, "Website-instelling voor peer-to-peerverbindingen toevoegen"},
+    {41201, "Wanneer deze website peer-to-peerverbindingen wil gebruiken:"},
+    {41202, "Peer-to-peerverbindingen voor de website toestaan (aanbevolen)"},
+    {41203, "Vragen voordat de website peer-to-peerverbindingen mag gebruiken"},
+    {41204, "Peer-to-peerverbindingen voor de website blokkeren"},
     // Advanced page: browsing data and updates
     {51000, "Geavanceerd"},
-    {51100, "Browsegegevens en -instellingen"},
-    {51101, "Wis alle lokale opslag, opgeslagen keuzes, instellingen en andere gegevens die door inhoud in Corvane Player worden gebruikt in alle browsers op deze computer."},
+    {51100, "Browsegegevens en instellingen"},
+    {51101, "Hiermee wist u in alle browsers op deze computer alle lokale opslag, opgeslagen keuzes, instellingen en andere gegevens die door inhoud in Corvane Player worden gebruikt."},
     {51200, "Updates"},
-    {51201, "Corvane Player kan automatisch naar updates zoeken om uw computer te helpen beschermen. Zonder updates kan deze computer kwetsbaar zijn voor beveiligingsrisico’s."},
+    {51201, "Corvane Player kan automatisch naar updates zoeken om uw computer te helpen beschermen. Zonder updates kan deze computer blootstaan aan beveiligingsrisico’s."},
     {51202, "Updates automatisch installeren zodra ze beschikbaar zijn (aanbevolen)"},
     {51203, "Nooit naar updates zoeken (niet aanbevolen)"},
     {51204, "Er wordt nooit automatisch naar updates gezocht. Dit wordt afgedwongen in uw rql.cfg-bestand, mogelijk door uw systeembeheerder."},
@@ -145,7 +145,7 @@ inline constexpr TextRow kDutchTexts[] = {
     {51402, "Instellingen voor vertrouwde locaties…"},
     // Versions of the plug-in
     {52000, "Versie van ActiveX:"},
-    {52001, "Versie van plug-in:"},
+    {52001, "Versie van de plug-in:"},
     {52002, "Niet geïnstalleerd"},
     {53000, "Versie %s van de plug-in is geïnstalleerd."},
     {53001, "De plug-in is niet geïnstalleerd."},
@@ -157,21 +157,21 @@ inline constexpr TextRow kDutchTexts[] = {
     {61004, "Gebruikte opslag"},
     {61005, "Website-instellingen voor camera en microfoon"},
     {61006, "Hieronder staan eerder bezochte websites die hebben gevraagd om de camera of microfoon te gebruiken. U kunt het gebruik van de camera en microfoon voor bepaalde websites toestaan of blokkeren. Als u een website verwijdert, worden alle instellingen en gegevens van die website in Corvane Player gewist."},
-    {61007, "Website-instellingen voor peer-ondersteunde verbindingen"},
-    {61008, "Hieronder staan eerder bezochte websites die hebben gevraagd om peer-ondersteunde verbindingen te gebruiken. U kunt het gebruik van peer-ondersteunde verbindingen voor bepaalde websites toestaan of blokkeren. Als u een website verwijdert, worden alle instellingen en gegevens van die website in Corvane Player gewist."},
+    {61007, "Website-instellingen voor peer-to-peerverbindingen"},
+    {61008, "Hieronder staan eerder bezochte websites die hebben gevraagd om peer-to-peerverbindingen te gebruiken. U kunt het gebruik van peer-to-peerverbindingen voor bepaalde websites toestaan of blokkeren. Als u een website verwijdert, worden alle instellingen en gegevens van die website in Corvane Player gewist."},
     {61009, "Website-instellingen voor lokale opslag"},
     {61010, "Hieronder staan eerder bezochte websites die lokale opslag gebruiken. U kunt het gebruik van lokale opslag voor bepaalde websites toestaan of blokkeren. Als u een website verwijdert, worden alle instellingen en gegevens van die website in Corvane Player gewist."},
     {61011, "Wanneer de geselecteerde website een camera of microfoon wil gebruiken:"},
-    {61012, "Wanneer de geselecteerde website peer-ondersteunde verbindingen wil gebruiken:"},
+    {61012, "Wanneer de geselecteerde website peer-to-peerverbindingen wil gebruiken:"},
     {61013, "Wanneer de geselecteerde website lokale opslag wil gebruiken:"},
     // Deleting all site data
     {71000, "Alle websitegegevens in Corvane Player wissen"},
     {71001, "De volgende onderdelen in alle browsers wissen:"},
     {71002, "Alle websitegegevens en website-instellingen wissen"},
-    {71003, "Hiermee wist u de lokale opslag, de camera- en microfooninstellingen en de instellingen voor peer-ondersteunde verbindingen. Websites kunnen lokale opslag gebruiken om gegevens te bewaren over het gebruik van Corvane Player op deze computer, zoals kijkgeschiedenis, spelvoortgang, opgeslagen werk, voorkeuren of gegevens waarmee deze computer kan worden geïdentificeerd. Als u belangrijke gegevens wilt behouden, kunt u de lokale opslag op het tabblad ‘Opslag’ per website verwijderen."},
-    {71004, "Hiermee wist u de lokale opslag, de camera- en microfooninstellingen en de instellingen voor peer-ondersteunde verbindingen."},
+    {71003, "Hiermee wist u de lokale opslag, de camera- en microfooninstellingen en de instellingen voor peer-to-peerverbindingen. Websites kunnen lokale opslag gebruiken om gegevens te bewaren over het gebruik van Corvane Player op deze computer, zoals kijkgeschiedenis, spelvoortgang, opgeslagen werk, voorkeuren of gegevens waarmee deze computer kan worden geïdentificeerd. Als u belangrijke gegevens wilt behouden, kunt u de lokale opslag op het tabblad ‘Opslag’ per website wissen."},
+    {71004, "Hiermee wist u de lokale opslag, de camera- en microfooninstellingen en de instellingen voor peer-to-peerverbindingen."},
     {71005, "Websites kunnen lokale opslag gebruiken om gegevens te bewaren over het gebruik van Corvane Player op deze computer, zoals kijkgeschiedenis, spelvoortgang, opgeslagen werk, voorkeuren of gegevens waarmee deze computer kan worden geïdentificeerd."},
-    {71006, "Als u belangrijke gegevens wilt behouden, kunt u de lokale opslag op het tabblad ‘Opslag’ per website verwijderen."},
+    {71006, "Als u belangrijke gegevens wilt behouden, kunt u de lokale opslag op het tabblad ‘Opslag’ per website wissen."},
     {71007, "Alle licentiebestanden voor audio en video verwijderen"},
     {71008, "Hiermee verwijdert u alle licentiebestanden, zodat Corvane Player geen beschermde inhoud meer kan afspelen, zoals films en muziek die u hebt gehuurd of gekocht. Sluit alle browsers voordat u deze bestanden verwijdert."},
     {71009, "Als u de volledige browsegeschiedenis wilt wissen, wis dan ook de geschiedenis in uw browsers."},
@@ -192,12 +192,12 @@ inline constexpr TextRow kDutchTexts[] = {
     {84000, "Compatibiliteitslocatie bewerken"},
     {84001, "Deze locatie vertrouwen en het gebruik van beveiligingsinstellingen toestaan die compatibel zijn met Corvane Player 7:"},
     // Adding a site
-    {91000, "Domein van website:"},
+    {91000, "Domein van de website:"},
     {91001, "Voorbeeld: www.example.com, example.com"},
     {92000, "Website toevoegen"},
     {92001, "Website-instelling voor lokale opslag toevoegen"},
     {92002, "Website-instelling voor camera en microfoon toevoegen"},
-    {92003, "Website-instelling voor peer-ondersteunde verbindingen toevoegen"},
+    {92003, "Website-instelling voor peer-to-peerverbindingen toevoegen"},
 };
 // clang-format on
 

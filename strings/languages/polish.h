@@ -154,7 +154,7 @@ inline constexpr TextRow kPolishTexts[] = {
     {61000, "Witryna"},
     {61001, "Dostęp do kamery i mikrofonu"},
     {61002, "Dostęp do sieci"},
-    {61003, "Dostęp do pamięci"},
+    {61003, "Dostęp do pamięci lokalnej"},
     {61004, "Zajęte miejsce"},
     {61005, "Ustawienia kamery i mikrofonu dla witryn"},
     {61006, "Poniżej znajduje się lista wcześniej odwiedzonych witryn, które poprosiły o dostęp do kamery lub mikrofonu. Poszczególnym witrynom można zezwolić na korzystanie z kamery i mikrofonu lub zablokować tę możliwość. Usunięcie witryny powoduje usunięcie wszystkich jej ustawień i danych w programie Corvane Player."},
@@ -190,7 +190,7 @@ inline constexpr TextRow kPolishTexts[] = {
     {83000, "Wybór zaufanego katalogu"},
     {83001, "Wybór zaufanego pliku"},
     // Editing a trusted location
-    {84000, "Edytowanie lokalizacji w trybie zgodności"},
+    {84000, "Edytowanie lokalizacji dla trybu zgodności"},
     {84001, "Zaufaj tej lokalizacji i zezwól jej na używanie ustawień zabezpieczeń zgodnych z programem Corvane Player 7:"},
     // Adding a site
     {91000, "Domena witryny:"},

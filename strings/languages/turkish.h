@@ -75,7 +75,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     {21102, "Tüm sitelerin bilgi kaydetmesini engellemek, bazı web sitelerinde kimi işlevlerin çalışmamasına neden olabilir."},
     {21103, "Bu işlem ayrıca daha önce ziyaret edilen sitelerin kaydettiği tüm verileri siler; bunlar arasında oyun ilerlemesi, oturum açma bilgileri, kaydedilmiş çalışmalar veya tercihler bulunabilir."},
     {21104, "İsterseniz"},
-    {21105, "veri veya geçmiş kaydetmeden geçici olarak gezinebilirsiniz."},
+    {21105, "veri veya geçmiş kaydetmeden internette geçici olarak gezinebilirsiniz."},
     {21106, "Gizlilik denetimleri hakkında daha fazla bilgi"},
     {21107, "Site İçin Yerel Depolama Ayarı Ekle"},
     {21108, "Bu site yerel depolamayı kullanmak istediğinde:"},
@@ -90,7 +90,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     {21204, "%.2f\u00A0GB"},
     // Private browsing
     {21300, "Gizli Gezinti"},
-    {21301, "İsterseniz yerel depolamaya veri kaydetmeden ve geçmiş tutmadan geçici olarak gezinebilirsiniz."},
+    {21301, "İsterseniz yerel depolamaya veri kaydetmeden ve geçmiş tutmadan internette geçici olarak gezinebilirsiniz."},
     {21302, "Gizli gezinti hakkında daha fazla bilgi"},
     // Camera and Mic page, with radio buttons
     {31000, "Kamera ve Mikrofon"},
@@ -100,7 +100,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     {31004, "Sitelere Göre Kamera ve Mikrofon Ayarları…"},
     {31005, "Kamera ve mikrofon kullanımı her zaman engellenir. Diğer ayarları geçersiz kılan bu ayar rql.cfg dosyanızda yer alır ve sistem yöneticiniz tarafından belirlenmiş olabilir."},
     {31006, "Site İçin Kamera ve Mikrofon Ayarı Ekle"},
-    {31007, "Bu site kamera veya mikrofon kullanmak istediğinde:"},
+    {31007, "Bu site kamerayı veya mikrofonu kullanmak istediğinde:"},
     // Playback page: peer-assisted networking
     {41000, "Oynatma"},
     {41001, "Eşler Arası Bağlantı"},
@@ -111,11 +111,11 @@ inline constexpr TextRow kTurkishTexts[] = {
     {41006, "Sitelere Göre Eşler Arası Bağlantı Ayarları…"},
     // Protected content
     {41100, "Korumalı İçerik"},
-    {41101, "Bu bilgisayarı satıyor veya bağışlıyorsanız bilgisayarın yetkisini kaldırın; böylece Corvane Player, satın almış olabileceğiniz filmler veya müzikler gibi daha önce görüntülenmiş korumalı içerikleri oynatamaz."},
+    {41101, "Bu bilgisayarı satıyor veya bağışlıyorsanız bilgisayarın yetkisini kaldırın; böylece Corvane Player, satın aldığınız filmler veya müzikler gibi daha önce görüntülenmiş korumalı içerikleri oynatamaz."},
     {41102, "Korumalı içerik hakkında daha fazla bilgi"},
     {41103, "Bu Bilgisayarın Yetkisini Kaldır…"},
     {41104, "Bu Bilgisayarın Yetkisini Kaldır"},
-    {41105, "Yetkiyi kaldırdığınızda Corvane Player, kiralamış veya satın almış olabileceğiniz filmler ve müzikler gibi korumalı içerikleri oynatamaz. Yetki kaldırıldıktan sonra Corvane Player’da korumalı içerik oynatmak için içerik sağlayıcılardan yeni lisanslar almanız gerekir."},
+    {41105, "Yetkiyi kaldırdığınızda Corvane Player, kiraladığınız veya satın aldığınız filmler ve müzikler gibi korumalı içerikleri oynatamaz. Yetki kaldırıldıktan sonra Corvane Player’da korumalı içerik oynatmak için içerik sağlayıcılardan yeni lisanslar almanız gerekir."},
     {41106, "Bilgisayarınızın yetkisini kaldırmadan önce tüm tarayıcıları kapatın."},
     // Adding a peer-assisted networking setting for a site
     {41200, "Site İçin Eşler Arası Bağlantı Ayarı Ekle"},
@@ -126,7 +126,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     // Advanced page: browsing data and updates
     {51000, "Gelişmiş"},
     {51100, "Gezinti Verileri ve Ayarlar"},
-    {51101, "Bu bilgisayardaki tüm tarayıcılarda, Corvane Player içeriklerinin kullandığı tüm yerel depolama verilerini, kayıtlı seçimleri, ayarları ve diğer verileri siler."},
+    {51101, "Bu bilgisayardaki tüm tarayıcılarda, Corvane Player’daki içeriklerin kullandığı tüm yerel depolama verilerini, kayıtlı seçimleri, ayarları ve diğer verileri siler."},
     {51200, "Güncellemeler"},
     {51201, "Corvane Player, bilgisayarınızı korumaya yardımcı olmak için güncellemeleri otomatik olarak denetleyebilir. Güncelleme yapılmaması, bu bilgisayarı güvenlik tehditlerine açık hale getirebilir."},
     {51202, "Mevcut güncellemeleri otomatik olarak yükle (önerilir)"},
@@ -158,12 +158,12 @@ inline constexpr TextRow kTurkishTexts[] = {
     {61003, "Depolama Erişimi"},
     {61004, "Kullanılan Alan"},
     {61005, "Sitelere Göre Kamera ve Mikrofon Ayarları"},
-    {61006, "Daha önce ziyaret edilen ve kamerayı veya mikrofonu kullanmak istemiş olan web siteleri aşağıda listelenmiştir. Belirli sitelerin kamerayı ve mikrofonu kullanmasına izin verebilir veya bunu engelleyebilirsiniz. Bir siteyi kaldırdığınızda o sitenin Corvane Player’daki tüm ayarları ve verileri silinir."},
+    {61006, "Daha önce ziyaret edilen ve kamerayı veya mikrofonu kullanmak isteyen web siteleri aşağıda listelenmiştir. Belirli sitelerin kamerayı ve mikrofonu kullanmasına izin verebilir veya bunu engelleyebilirsiniz. Bir siteyi kaldırdığınızda o sitenin Corvane Player’daki tüm ayarları ve verileri silinir."},
     {61007, "Sitelere Göre Eşler Arası Bağlantı Ayarları"},
-    {61008, "Daha önce ziyaret edilen ve eşler arası bağlantı kullanmak istemiş olan web siteleri aşağıda listelenmiştir. Belirli sitelerin eşler arası bağlantı kullanmasına izin verebilir veya bunu engelleyebilirsiniz. Bir siteyi kaldırdığınızda o sitenin Corvane Player’daki tüm ayarları ve verileri silinir."},
+    {61008, "Daha önce ziyaret edilen ve eşler arası bağlantı kullanmak isteyen web siteleri aşağıda listelenmiştir. Belirli sitelerin eşler arası bağlantı kullanmasına izin verebilir veya bunu engelleyebilirsiniz. Bir siteyi kaldırdığınızda o sitenin Corvane Player’daki tüm ayarları ve verileri silinir."},
     {61009, "Sitelere Göre Yerel Depolama Ayarları"},
     {61010, "Daha önce ziyaret edilen ve yerel depolamayı kullanan web siteleri aşağıda listelenmiştir. Belirli sitelerin yerel depolamayı kullanmasına izin verebilir veya bunu engelleyebilirsiniz. Bir siteyi kaldırdığınızda o sitenin Corvane Player’daki tüm ayarları ve verileri silinir."},
-    {61011, "Seçili site kamera veya mikrofon kullanmak istediğinde:"},
+    {61011, "Seçili site kamerayı veya mikrofonu kullanmak istediğinde:"},
     {61012, "Seçili site eşler arası bağlantı kullanmak istediğinde:"},
     {61013, "Seçili site yerel depolamayı kullanmak istediğinde:"},
     // Deleting all site data
@@ -175,7 +175,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     {71005, "Web siteleri, Corvane Player’ın bu bilgisayardaki kullanımıyla ilgili verileri (izleme geçmişi, oyun ilerlemesi, kaydedilmiş çalışmalar, tercihler veya bu bilgisayarı tanımlayan veriler gibi) kaydetmek için yerel depolamayı kullanabilir."},
     {71006, "Önemli verileri korumak için “Depolama” sekmesinde yerel depolama verilerini site site kaldırabilirsiniz."},
     {71007, "Tüm ses ve video lisans dosyalarını sil"},
-    {71008, "Corvane Player’ın, kiralamış veya satın almış olabileceğiniz filmler ve müzikler gibi korumalı içerikleri oynatmasını önlemek için tüm lisans dosyalarını siler. Bu dosyaları silmeden önce tüm tarayıcıları kapatın."},
+    {71008, "Corvane Player’ın, kiraladığınız veya satın aldığınız filmler ve müzikler gibi korumalı içerikleri oynatmasını önlemek için tüm lisans dosyalarını siler. Bu dosyaları silmeden önce tüm tarayıcıları kapatın."},
     {71009, "Gezinti geçmişinin tamamını temizlemek için tarayıcılarınızdaki geçmiş verilerini de temizleyin."},
     // Trusted locations
     {81000, "Güvenilir Konum Ayarları"},
@@ -188,8 +188,8 @@ inline constexpr TextRow kTurkishTexts[] = {
     {82000, "KBX Dosyaları (*.kbx)"},
     {82001, "*.kbx"},
     {82002, "Konum"},
-    {83000, "Güvenilir Klasörü Seçin"},
-    {83001, "Güvenilir Dosyayı Seçin"},
+    {83000, "Güvenilir Klasör Seçin"},
+    {83001, "Güvenilir Dosya Seçin"},
     // Editing a trusted location
     {84000, "Uyumluluk Konumunu Düzenle"},
     {84001, "Bu konuma güven ve Corvane Player 7 ile uyumlu güvenlik ayarlarını kullanmasına izin ver:"},
