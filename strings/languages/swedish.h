@@ -16,7 +16,7 @@
 //   licence file ................. licensfil
 //   deauthorise .................. avauktorisera
 //   trusted location ............. betrodd plats
-//   plug-in ...................... insticksprogram
+//   plug-in ...................... insticksmodul
 #pragma once
 
 #include "strings/text_row.h"
@@ -53,7 +53,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     {11401, "Ange namnet på sidan som ska visas %s"},
     {11402, "sida"},
     // Files that could not be deleted
-    {11500, "Det gick inte att radera filer"},
+    {11500, "Det gick inte att radera filerna"},
     {11501, "Corvane Player kunde inte radera all lokal lagring. Filerna kan vara låsta av ett annat program. Stäng alla webbläsare eller starta om datorn och försök sedan igen."},
     {11502, "Corvane Player kunde inte radera alla licensfiler. De kan vara låsta av ett annat program. Stäng alla webbläsare eller starta om datorn och försök sedan igen."},
     // The panel's other name
@@ -96,9 +96,9 @@ inline constexpr TextRow kSwedishTexts[] = {
     {31002, "Fråga när en webbplats vill använda kameran eller mikrofonen (rekommenderas)"},
     {31003, "Blockera alla webbplatser från att använda kameran och mikrofonen"},
     {31004, "Webbplatsinställningar för kamera och mikrofon…"},
-    {31005, "Användning av kameran och mikrofonen blockeras alltid. Detta är fast inställt i din rql.cfg-fil, eventuellt av din systemadministratör."},
+    {31005, "Användning av kameran och mikrofonen blockeras alltid. Detta har låsts i din rql.cfg-fil, kanske av din systemadministratör."},
     {31006, "Lägg till webbplatsinställning för kamera och mikrofon"},
-    {31007, "När den här webbplatsen vill använda en kamera eller mikrofon:"},
+    {31007, "När den här webbplatsen vill använda kameran eller mikrofonen:"},
     // Playback page: peer-assisted networking
     {41000, "Uppspelning"},
     {41001, "Peer-assisterade anslutningar"},
@@ -129,7 +129,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     {51201, "Corvane Player kan söka efter uppdateringar automatiskt för att bidra till att skydda datorn. Utan uppdateringar kan datorn vara sårbar för säkerhetshot."},
     {51202, "Installera uppdateringar automatiskt när de är tillgängliga (rekommenderas)"},
     {51203, "Sök aldrig efter uppdateringar (rekommenderas inte)"},
-    {51204, "Ingen automatisk sökning efter uppdateringar görs. Detta är fast inställt i din rql.cfg-fil, eventuellt av din systemadministratör."},
+    {51204, "Automatisk sökning efter uppdateringar görs aldrig. Detta har låsts i din rql.cfg-fil, kanske av din systemadministratör."},
     {51205, "Sök nu"},
     {51206, "Sök efter uppdateringar för att bidra till att skydda datorn och dra nytta av nya förbättringar i Corvane Player."},
     {51207, "Ändra uppdateringsinställningar"},
@@ -145,10 +145,10 @@ inline constexpr TextRow kSwedishTexts[] = {
     {51402, "Inställningar för betrodda platser…"},
     // Versions of the plug-in
     {52000, "ActiveX-version:"},
-    {52001, "Version av insticksprogram:"},
+    {52001, "Insticksmodulens version:"},
     {52002, "Inte installerat"},
-    {53000, "Version %s av insticksprogrammet är installerad."},
-    {53001, "Insticksprogrammet är inte installerat."},
+    {53000, "Version %s av insticksmodulen är installerad."},
+    {53001, "Insticksmodulen är inte installerad."},
     // Site lists: column heads, titles, explanations
     {61000, "Webbplats"},
     {61001, "Kamera- och mikrofonåtkomst"},
@@ -161,7 +161,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     {61008, "Nedan visas tidigare besökta webbplatser som har bett om att få använda peer-assisterade anslutningar. Du kan tillåta eller blockera att enskilda webbplatser använder peer-assisterade anslutningar. Om du tar bort en webbplats raderas alla inställningar och data för den webbplatsen i Corvane Player."},
     {61009, "Webbplatsinställningar för lokal lagring"},
     {61010, "Nedan visas tidigare besökta webbplatser som använder lokal lagring. Du kan tillåta eller blockera att enskilda webbplatser använder lokal lagring. Om du tar bort en webbplats raderas alla inställningar och data för den webbplatsen i Corvane Player."},
-    {61011, "När den markerade webbplatsen vill använda en kamera eller mikrofon:"},
+    {61011, "När den markerade webbplatsen vill använda kameran eller mikrofonen:"},
     {61012, "När den markerade webbplatsen vill använda peer-assisterade anslutningar:"},
     {61013, "När den markerade webbplatsen vill använda lokal lagring:"},
     // Deleting all site data
@@ -177,7 +177,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     {71009, "Om du vill rensa all webbhistorik behöver du även rensa historiken i dina webbläsare."},
     // Trusted locations
     {81000, "Inställningar för betrodda platser"},
-    {81001, "Av säkerhetsskäl hindrar Corvane Player innehåll från att komma åt både filer på den här datorn och internet. Utvecklare kan lägga till undantag för betrott innehåll nedan."},
+    {81001, "Av säkerhetsskäl hindrar Corvane Player innehåll från att samtidigt komma åt filer på den här datorn och internet. Utvecklare kan lägga till undantag för betrott innehåll nedan."},
     {81002, "Läs mer om betrodda platser"},
     {81003, "Betrodd fil eller mapp"},
     {81004, "Återställ licensfiler"},
