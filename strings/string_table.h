@@ -2,12 +2,13 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "strings/languages.h"
 
 namespace NCPStrings {
 
-inline constexpr unsigned int kTextCount = 160;
+inline constexpr std::size_t kTextCount = 160;
 
 // An id and the row of the text table that holds its text.
 struct StringMapping {
