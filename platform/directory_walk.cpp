@@ -94,6 +94,8 @@ struct DirectoryWalk::Level {
   Queue<Subdirectory> waiting;
 };
 
+// What a batch holds is written before it is read.
+// cppcheck-suppress uninitMemberVar
 DirectoryWalk::DirectoryWalk(Links links) : links_(links) {}
 
 DirectoryWalk::~DirectoryWalk() = default;
@@ -137,7 +139,8 @@ void DirectoryWalk::Pop() {
     LeaveDirectory(top_ ? top_->directory.Get() : AT_FDCWD, done->name,
                    done->subdirectory);
   } else {
-    top_->waiting.DropAll();
+    // Only a level that has a parent can lose it.
+    top_->waiting.DropAll();  // NOLINT(clang-analyzer-core.CallAndMessage)
     errno = ESTALE;
     LoseDirectory();
   }

@@ -76,7 +76,7 @@ class DirectoryWalk {
   void EnterNextSubdirectory();
   void CloseFarthest();
   [[nodiscard]] bool OpenParentOfTop();
-  [[nodiscard]] FileDescriptor OpenFromPath(const Level& level) const;
+  [[nodiscard]] FileDescriptor OpenFromPath(const Level& target) const;
   [[nodiscard]] FileDescriptor Open(int parent, const char* name) const;
 
   const Links links_;

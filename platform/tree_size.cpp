@@ -22,7 +22,7 @@ struct TreeSize::Measured {
       return std::make_tuple(identity.device, identity.inode);
     };
     const auto order = key(a) <=> key(b);
-    return (order > 0) - (order < 0);
+    return std::is_gt(order) - std::is_lt(order);
   }
 
   static void Delete(void* node) { delete static_cast<Measured*>(node); }

@@ -37,6 +37,8 @@ std::int32_t LeadingNumber(const char* text) {
 // Where a differing byte stands in the order. Folds ASCII itself: tolower
 // would depend on the locale and is undefined for negative values.
 int Rank(char byte) {
+  // Bytes from 128 up rank below all others.
+  // NOLINTNEXTLINE(bugprone-signed-char-misuse)
   const int value = static_cast<signed char>(byte);
   if (value >= 'A' && value <= 'Z') return value - 'A' + 'a';
   return IsDigit(byte) ? value + 256 : value;
