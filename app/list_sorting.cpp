@@ -38,6 +38,8 @@ guint UnsignedColumn(GtkTreeModel* model, GtkTreeIter* row, gpointer column) {
 
 }  // namespace
 
+// As the toolkit's own calls of this kind, it takes a list ended by -1.
+// NOLINTNEXTLINE(cert-dcl50-cpp)
 void tree_model_set_column_comparator(GnomeTCCapplet* panel,
                                       const char* list_store_id,
                                       GtkTreeIterCompareFunc compare,

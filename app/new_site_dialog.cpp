@@ -80,8 +80,10 @@ G_MODULE_EXPORT void on_new_site_entry_changed(GtkEditable* entry,
 G_MODULE_EXPORT void on_new_site_add_button_clicked(GtkButton*,
                                                     GnomeTCCapplet* panel) {
   if (panel->new_site_mode < 0 ||
-      panel->new_site_mode >= static_cast<int>(G_N_ELEMENTS(kSitePermissions)))
+      panel->new_site_mode >=
+          static_cast<int>(G_N_ELEMENTS(kSitePermissions))) {
     return;
+  }
   const SimpleString domain =
       gtk_entry_get_text(GTK_ENTRY(get_widget(panel->builder, kEntry)));
   // A site that could not be added is missing from the list that follows.

@@ -20,8 +20,10 @@ GtkTreePath* NewClickedRow(GtkTreeView* view, const GdkEventButton& event,
                                      nullptr, nullptr)) {
     return nullptr;
   }
-  if (clicked == column && gtk_tree_selection_path_is_selected(selection, path))
+  if (clicked == column &&
+      gtk_tree_selection_path_is_selected(selection, path)) {
     return path;
+  }
   gtk_tree_path_free(path);
   return nullptr;
 }

@@ -69,8 +69,9 @@ void select_page(GnomeTCCapplet* panel, const char* page_name) {
     const std::string id = std::string(page_name) + "_vbox";
     GObject* box = gtk_builder_get_object(panel->builder, id.c_str());
     // -1, of a box that is no page, stands for the last page.
-    if (GTK_IS_WIDGET(box))
+    if (GTK_IS_WIDGET(box)) {
       page = gtk_notebook_page_num(notebook, GTK_WIDGET(box));
+    }
     gtk_notebook_set_current_page(notebook, page);
   }
   // Of another page the switch has filled the lists.
