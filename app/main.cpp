@@ -2,10 +2,6 @@
 #include <cstdlib>
 
 #include "app/command_line.h"
-#include "app/icons.h"
-#include "app/list_presentation.h"
-#include "app/list_sorting.h"
-#include "app/localize_widgets.h"
 #include "app/start_up.h"
 
 int main(int argc, char** argv) {
@@ -17,22 +13,8 @@ int main(int argc, char** argv) {
   if (!parse_command_line(panel, &argc, &argv, &page_name)) {
     return EXIT_FAILURE;
   }
-  register_permission_icons();
-  open_settings(panel);
-  if (!load_ui(panel)) {
-    gtk_main();
-    return EXIT_FAILURE;
-  }
-  set_window_icons();
-  connect_signals(panel);
-  select_page(panel, page_name);
-  prepare_list_sorting(panel);
-  prepare_lists(panel);
-  set_links(panel);
-  localize_widgets(panel);
-  set_accessible_names(panel);
-  gtk_widget_show(panel->window);
+  const bool is_open = open_panel(panel, page_name);
   g_free(page_name);
   gtk_main();
-  return EXIT_SUCCESS;
+  return is_open ? EXIT_SUCCESS : EXIT_FAILURE;
 }

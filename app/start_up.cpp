@@ -4,6 +4,9 @@
 
 #include "app/dialogs.h"
 #include "app/icons.h"
+#include "app/list_presentation.h"
+#include "app/list_sorting.h"
+#include "app/localize_widgets.h"
 #include "app/notebook_pages.h"
 #include "app/ui_definition.h"
 #include "store/setting_keys.h"
@@ -26,14 +29,8 @@ SettingBase* NewMasterSetting(const char* key) {
   return new SettingBase(key, SASM::SettingsManager::MasterDomain());
 }
 
-}  // namespace
-
-GnomeTCCapplet* new_panel() {
-  auto* panel = g_new0(GnomeTCCapplet, 1);
-  panel->strings = new StringManager;
-  return panel;
-}
-
+// With the first setting object the store opens, which reads the settings from
+// disk.
 void open_settings(GnomeTCCapplet* panel) {
   panel->builder = gtk_builder_new();
   panel->updating = false;
@@ -43,6 +40,7 @@ void open_settings(GnomeTCCapplet* panel) {
   panel->selected_rows = nullptr;
 }
 
+// False after showing an error dialog.
 bool load_ui(GnomeTCCapplet* panel) {
   GError* error = nullptr;
   if (gtk_builder_add_from_string(
@@ -57,10 +55,8 @@ bool load_ui(GnomeTCCapplet* panel) {
   return true;
 }
 
-void connect_signals(GnomeTCCapplet* panel) {
-  gtk_builder_connect_signals(panel->builder, panel);
-}
-
+// Makes the page of that name current and fills it; null and unknown names are
+// the first page.
 void select_page(GnomeTCCapplet* panel, const char* page_name) {
   GtkNotebook* notebook =
       GTK_NOTEBOOK(get_widget(panel->builder, "tessary_corvane_notebook"));
@@ -82,4 +78,28 @@ void set_links(GnomeTCCapplet* panel) {
   for (const Link& link : kLinks) {
     set_link_URL(panel, link.button, link.string_id);
   }
+}
+
+}  // namespace
+
+GnomeTCCapplet* new_panel() {
+  auto* panel = g_new0(GnomeTCCapplet, 1);
+  panel->strings = new StringManager;
+  return panel;
+}
+
+bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
+  register_permission_icons();
+  open_settings(panel);
+  if (!load_ui(panel)) return false;
+  set_window_icons();
+  gtk_builder_connect_signals(panel->builder, panel);
+  select_page(panel, page_name);
+  prepare_list_sorting(panel);
+  prepare_lists(panel);
+  set_links(panel);
+  localize_widgets(panel);
+  set_accessible_names(panel);
+  gtk_widget_show(panel->window);
+  return true;
 }
