@@ -1,0 +1,31 @@
+#include "tests/support/home_file_manager.h"
+
+using SASM::SimpleString;
+
+HomeFileManager::HomeFileManager(const TemporaryHome& home)
+    : base_((home / ".orbelline/Corvane_Player").c_str()),
+      asset_cache_((home / TemporaryHome::kAssetCache).c_str()),
+      licences_((home / TemporaryHome::kLicences).c_str()) {}
+
+bool HomeFileManager::RemoveFileAtPath(const SimpleString& path) {
+  if (before_removal && !before_removal(path.c_str())) return false;
+  return LinuxFileManager::RemoveFileAtPath(path);
+}
+
+bool HomeFileManager::CreateDirectoryAtPath(const SimpleString& path,
+                                            const SimpleString& name) {
+  if (before_creation && !before_creation(path.c_str())) return false;
+  return LinuxFileManager::CreateDirectoryAtPath(path, name);
+}
+
+const SimpleString& HomeFileManager::GetAssetCacheDirectory() const {
+  return asset_cache_;
+}
+
+const SimpleString& HomeFileManager::GetUserSettingsBaseDirectory() const {
+  return base_;
+}
+
+const SimpleString& HomeFileManager::GetDRMLicenseDataDirectory() const {
+  return licences_;
+}

@@ -1,0 +1,56 @@
+#include "tests/support/privileges.h"
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+
+constexpr uid_t kNobody = 65534;
+
+bool database_is_empty = false;
+
+}  // namespace
+
+// Stands before that of the C library.
+extern "C" passwd* getpwuid(uid_t uid) {
+  using Function = passwd*(uid_t);
+  static auto* const real =
+      reinterpret_cast<Function*>(dlsym(RTLD_NEXT, "getpwuid"));
+  return database_is_empty ? nullptr : real(uid);
+}
+
+OrdinaryUser::OrdinaryUser(const TemporaryHome& home)
+    : was_root_(geteuid() == 0) {
+  if (!was_root_) return;
+  const std::string command = "chown -Rh 65534 '" + home.Path().string() + "'";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(seteuid(kNobody), 0);
+}
+
+OrdinaryUser::~OrdinaryUser() {
+  if (!was_root_) return;
+  EXPECT_EQ(seteuid(0), 0);
+}
+
+LoweredLimit::LoweredLimit(int resource, rlim_t limit) : resource_(resource) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  EXPECT_EQ(getrlimit(static_cast<__rlimit_resource>(resource_), &former_), 0);
+  const rlimit lowered = {limit, former_.rlim_max};
+  EXPECT_EQ(setrlimit(static_cast<__rlimit_resource>(resource_), &lowered), 0);
+}
+
+LoweredLimit::~LoweredLimit() {
+  EXPECT_EQ(setrlimit(static_cast<__rlimit_resource>(resource_), &former_), 0);
+}
+
+NoHome::NoHome() {
+  setenv("HOME", "", 1);
+  database_is_empty = true;
+}
+
+NoHome::~NoHome() { database_is_empty = false; }

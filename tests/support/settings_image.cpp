@@ -1,0 +1,158 @@
+#include "tests/support/settings_image.h"
+
+#include <bit>
+#include <cstdint>
+#include <memory>
+#include <sstream>
+
+#include "settings/settings_reader.h"
+
+namespace image {
+namespace {
+
+Bytes BigEndian(std::uint64_t value, int size) {
+  Bytes bytes;
+  while (size-- > 0) bytes += static_cast<char>(value >> (8 * size));
+  return bytes;
+}
+
+Bytes OfType(char type, const Bytes& value) { return Bytes(1, type) + value; }
+
+std::string Quoted(const SASM::SimpleString* text) {
+  return std::string("'") + text->c_str() + "'";
+}
+
+std::string ValueOf(const SASM::SettingDataItem& item);
+
+std::string ElementsOf(const SASM::SDIVector& array) {
+  std::string text;
+  for (unsigned int i = 0; i < array.count; ++i) {
+    text += (i ? " " : "") + Describe(*array.At(i));
+  }
+  return "[" + text + "]";
+}
+
+std::string ValueOf(const SASM::SettingDataItem& item) {
+  std::ostringstream text;
+  switch (item.type) {
+    case SASM::kSettingsDataTypeDouble:
+      text << item.value.number;
+      return text.str();
+    case SASM::kSettingsDataTypeBool:
+      return item.value.boolean ? "true" : "false";
+    case SASM::kSettingsDataTypeString:
+      return Quoted(item.value.string);
+    case SASM::kSettingsDataTypeArray:
+      return ElementsOf(*item.value.array);
+  }
+  return "?" + std::to_string(item.type);
+}
+
+}  // namespace
+
+Bytes Hex(const std::string& digits) {
+  std::istringstream pairs(digits);
+  Bytes bytes;
+  for (unsigned int byte; pairs >> std::hex >> byte;) {
+    bytes += static_cast<char>(byte);
+  }
+  return bytes;
+}
+
+Bytes U16(unsigned int value) { return BigEndian(value, 2); }
+Bytes U32(unsigned int value) { return BigEndian(value, 4); }
+
+Bytes Text(const std::string& text) {
+  return U16(static_cast<unsigned int>(text.size())) + text;
+}
+
+Bytes Number(double value) {
+  return OfType(0, BigEndian(std::bit_cast<std::uint64_t>(value), 8));
+}
+Bytes Bool(unsigned int value) { return OfType(1, BigEndian(value, 1)); }
+Bytes String(const std::string& text) { return OfType(2, Text(text)); }
+Bytes Array(const Bytes& elements) {
+  return OfType(3, elements + Hex("00 00 09"));
+}
+
+Bytes Element(const std::string& name, const Bytes& value) {
+  return Text(name) + value;
+}
+
+Bytes Entry(const std::string& key, const Bytes& value) {
+  return Text(key) + value + BigEndian(0, 1);
+}
+
+Bytes Body(const std::string& name, const Bytes& entries) {
+  return "TCSO" + U16(4) + U32(0) + Text(name) + U32(0) + entries;
+}
+
+Bytes Framed(const Bytes& body) {
+  const auto size = static_cast<unsigned int>(body.size());
+  return (size < 63 ? U16(0x80 | size) : U16(0xBF) + U32(size)) + body;
+}
+
+Bytes File(const std::string& name, const Bytes& entries) {
+  return Framed(Body(name, entries));
+}
+
+Bytes DefaultMasterFile() {
+  return File("settings", Entry("autoUpdateInterval", Number(14)) +
+                              Entry("crossdomainAllow", Bool(0)) +
+                              Entry("crossdomainAlways", Bool(1)) +
+                              Entry("autoUpdateDisabled", Bool(0)) +
+                              Entry("disallowP2PUplink", Bool(0)) +
+                              Entry("defaultalways", Bool(0)) +
+                              Entry("secureCrossDomainCacheSize", Number(-1)) +
+                              Entry("allowThirdPartyLSOAccess", Bool(1)) +
+                              Entry("domains", Array()) +
+                              Entry("trustedPaths", Array()) +
+                              Entry("defaultklimit", Number(100)));
+}
+
+Bytes DefaultSiteFile(const std::string& domain) {
+  return File(domain + "/settings",
+              Entry("p2pallow", Bool(0)) + Entry("always", Bool(0)) +
+                  Entry("p2palways", Bool(0)) + Entry("klimit", Number(100)) +
+                  Entry("allow", Bool(0)));
+}
+
+std::string Describe(const SASM::SettingDataItem& item) {
+  return std::string(item.name.c_str()) + "=" + ValueOf(item);
+}
+
+std::string Describe(const SASM::SettingsDictionary& dictionary) {
+  std::string text;
+  for (const auto& entry : dictionary) {
+    text += (text.empty() ? "" : " ") + std::string(entry.key.c_str()) + "=" +
+            ValueOf(entry.value);
+  }
+  return text;
+}
+
+std::string Describe(const Bytes& file) {
+  const std::unique_ptr<unsigned char[]> bytes(new unsigned char[file.size()]);
+  std::ranges::copy(file, bytes.get());
+  SMImplementation::SettingsReader reader(bytes.get(), file.size());
+  SASM::SimpleString* name = nullptr;
+  const std::unique_ptr<SASM::SettingsDictionary> dictionary(
+      reader.GetNewSettingsData(&name));
+  delete name;
+  return dictionary ? Describe(*dictionary) : "rejected";
+}
+
+std::vector<std::string> NamesOf(const SASM::StringVector& list) {
+  std::vector<std::string> names;
+  for (unsigned int i = 0; i < list.count; ++i) names.push_back(list.TextAt(i));
+  return names;
+}
+
+std::vector<std::string> NamesOf(const SASM::SDIVector& list) {
+  std::vector<std::string> names;
+  for (unsigned int i = 0; i < list.count; ++i) {
+    names.push_back(list.At(i)->name.c_str());
+  }
+  return names;
+}
+
+}  // namespace image
