@@ -1,0 +1,113 @@
+#include "settings/settings_writer.h"
+
+#include <gtest/gtest.h>
+
+#include "store/settings_manager.h"
+#include "tests/support/home_file_manager.h"
+#include "tests/support/settings_image.h"
+
+namespace {
+
+using namespace image;
+using SASM::SDIVector;
+using SASM::SettingDataItem;
+using SASM::SimpleString;
+using SMImplementation::SettingsAggregator;
+
+class SettingsWriter : public testing::Test {
+ protected:
+  void Set(SettingDataItem item) {
+    EXPECT_TRUE(manager_.SetSetting(&item, item.name, "site"));
+  }
+
+  Bytes Image(const std::string& name) {
+    unsigned char* data = nullptr;
+    unsigned long size = 0;
+    SMImplementation::SettingsWriter writer(&manager_, "site");
+    writer.GetNewSettingsWithName(name.c_str(), &data, size);
+    const std::unique_ptr<unsigned char[]> owned(data);
+    return Bytes(data, data + size);
+  }
+
+  TemporaryHome home_;
+  HomeFileManager files_{home_};
+  SASM::SettingsManager manager_{&files_};
+};
+
+TEST_F(SettingsWriter, WritesTheVeryBytes) {
+  EXPECT_EQ(Image("settings"),
+            Hex("00 98 54 43 53 4F 00 04 00 00 00 00 00 08 73 65 74 74 69 6E "
+                "67 73 00 00 00 00"));
+  Set({"autoUpdateDisabled", false});
+  Set({"trustedPaths", new SDIVector});
+  Set({"defaultklimit", 100.0});
+  EXPECT_EQ(
+      Image("settings"),
+      Hex("00 BF 00 00 00 5B 54 43 53 4F 00 04 00 00 00 00 00 08 73 65 74 74 "
+          "69 6E 67 73 00 00 00 00 00 12 61 75 74 6F 55 70 64 61 74 65 44 69 "
+          "73 61 62 6C 65 64 01 00 00 00 0C 74 72 75 73 74 65 64 50 61 74 68 "
+          "73 03 00 00 09 00 00 0D 64 65 66 61 75 6C 74 6B 6C 69 6D 69 74 00 "
+          "40 59 00 00 00 00 00 00 00"));
+}
+
+TEST_F(SettingsWriter, ChoosesTheHeaderByTheLengthOfTheBody) {
+  EXPECT_EQ(Image(std::string(46, 'n')).substr(0, 6), Hex("00 BE") + "TCSO");
+  EXPECT_EQ(Image(std::string(47, 'n')).substr(0, 10),
+            Hex("00 BF 00 00 00 3F") + "TCSO");
+}
+
+TEST_F(SettingsWriter, WritesEveryTypeInDictionaryOrder) {
+  auto* list = new SDIVector;
+  for (const SettingDataItem& element :
+       {SettingDataItem("a", new SimpleString("x")), SettingDataItem("", true),
+        SettingDataItem("b", false), SettingDataItem("c", 0.5)}) {
+    list->addElement(&element);
+  }
+  Set({"ab", true});
+  Set({"ba", new SimpleString("text")});
+  Set({"list", list});
+  Set({"later", static_cast<SASM::_SettingsDataType>(7), nullptr});
+  EXPECT_EQ(Image("n"),
+            File("n", Entry("ba", String("text")) + Entry("ab", Bool(1)) +
+                          Entry("later", Hex("07")) +
+                          // An element without a name would end the array.
+                          Entry("list", Array(Hex("00 01 61 02 00 01 78") +
+                                              Element("b", Bool(0)) +
+                                              Element("c", Number(0.5))))));
+}
+
+TEST_F(SettingsWriter, CutsTextsThatAreTooLong) {
+  const std::string text(70000, 't');
+  Set({"k", new SimpleString(text.c_str())});
+  EXPECT_EQ(Image("n"), File("n", Entry("k", String(text.substr(0, 65535)))));
+}
+
+TEST(SettingsAggregator, DoublesBeforeItIsFull) {
+  const struct {
+    unsigned long initial;
+    unsigned long first;
+    unsigned long second;
+    unsigned long capacity;
+  } cases[] = {{0, 1023, 0, 1024},      {1024, 1023, 1, 2048},
+               {1023, 1024, 0, 2048},   {1500, 1499, 0, 1500},
+               {1500, 1000, 500, 3000}, {1024, 5, 9000, 16384}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.capacity);
+    SettingsAggregator buffer(c.initial);
+    std::vector<unsigned char> data(9000);
+    for (std::size_t i = 0; i < data.size(); ++i) {
+      data[i] = static_cast<unsigned char>(i % 251);
+    }
+    buffer.AppendData(data.data(), c.first);
+    buffer.AppendData(data.data(), c.second);
+    ASSERT_EQ(buffer.Size(), c.first + c.second);
+    std::vector<unsigned char> got(20000);
+    // It never gives more than its capacity.
+    EXPECT_EQ(buffer.GetData(got.size(), got.data()), c.capacity);
+    EXPECT_TRUE(std::equal(data.begin(), data.begin() + c.first, got.begin()));
+    EXPECT_TRUE(std::equal(data.begin(), data.begin() + c.second,
+                           got.begin() + c.first));
+  }
+}
+
+}  // namespace
