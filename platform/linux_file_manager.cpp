@@ -102,8 +102,13 @@ std::uint64_t LinuxFileManager::SizeOfFileAtPath(
 
 bool LinuxFileManager::RemoveFilesRecursively(const SimpleString& path,
                                               FilePredicate* predicate) {
-  if (!path.HasText()) return false;
-  return path.IsEmpty() || TreeRemoval(predicate).Remove(path.c_str());
+  std::unique_ptr<char[]> name(
+      path.HasText() ? SimpleString::CopyString(path.c_str()) : nullptr);
+  if (!name) return false;
+  // For a slash at the end of it a link would be followed.
+  std::size_t size = std::strlen(name.get());
+  while (size > 1 && name[size - 1] == '/') name[--size] = '\0';
+  return size == 0 || TreeRemoval(predicate).Remove(name.get());
 }
 
 bool LinuxFileManager::RemoveFileAtPath(const SimpleString& path) {
