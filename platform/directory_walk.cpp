@@ -109,13 +109,22 @@ bool DirectoryWalk::Push(const char* name, const Subdirectory& subdirectory) {
   auto* level = new (std::nothrow)
       Level{top_, nullptr, name, subdirectory, FileDescriptor(), {}, {}};
   if (!level) return false;
-  level->directory = Open(top_ ? top_->directory.Get() : AT_FDCWD, name);
+  level->directory = OpenBelowTop(name);
   (top_ ? top_->child : first_) = level;
   top_ = level;
   if (!level->directory.IsOpen()) return true;
-  if (++open_count_ > kMostOpenDirectories) CloseFarthest();
+  if (++open_count_ > kMostOpenDirectories) (void)CloseFarthest();
   ReadTop();
   return true;
+}
+
+FileDescriptor DirectoryWalk::OpenBelowTop(const char* name) {
+  const int parent = top_ ? top_->directory.Get() : AT_FDCWD;
+  FileDescriptor directory = Open(parent, name);
+  while (!directory.IsOpen() && errno == EMFILE && CloseFarthest()) {
+    directory = Open(parent, name);
+  }
+  return directory;
 }
 
 void DirectoryWalk::EnterNextSubdirectory() {
@@ -174,16 +183,18 @@ void DirectoryWalk::VisitBatch(std::size_t size) {
 }
 
 // Closes the open directory nearest to the start of the walk; the open ones
-// are always the last of the path.
-void DirectoryWalk::CloseFarthest() {
+// are always the last of the path. False when there is only one left.
+bool DirectoryWalk::CloseFarthest() {
+  if (open_count_ < 2) return false;
   Level* farthest = top_;
   for (Level* level = top_->parent; level && level->directory.IsOpen();
        level = level->parent) {
     farthest = level;
   }
-  if (!Identify(farthest->directory.Get(), &farthest->closed)) return;
+  if (!Identify(farthest->directory.Get(), &farthest->closed)) return false;
   farthest->directory = FileDescriptor();
   --open_count_;
+  return true;
 }
 
 // Back up the way the walk came: through "..", or, where a link led here, by

@@ -19,9 +19,10 @@ struct FileIdentity {
 
 // Walks a tree depth first, each directory read whole before its
 // subdirectories are entered. Works relative to open directories, of which it
-// keeps a fixed number; neither the stack nor the descriptors grow with the
-// depth of the tree. Memory grows with the depth and with the names of the
-// directories that wait to be entered.
+// keeps a fixed number, and fewer where the process can have no more; neither
+// the stack nor the descriptors grow with the depth of the tree. Memory grows
+// with the depth and with the names of the directories that wait to be
+// entered.
 //
 // A subclass says what happens to an entry and to a directory that is done.
 class DirectoryWalk {
@@ -74,8 +75,10 @@ class DirectoryWalk {
   void ReadTop();
   void VisitBatch(std::size_t size);
   void EnterNextSubdirectory();
-  void CloseFarthest();
+  [[nodiscard]] bool CloseFarthest();
   [[nodiscard]] bool OpenParentOfTop();
+  // Gives up descriptors of the walk's own when the process has none left.
+  [[nodiscard]] FileDescriptor OpenBelowTop(const char* name);
   [[nodiscard]] FileDescriptor OpenFromPath(const Level& target) const;
   [[nodiscard]] FileDescriptor Open(int parent, const char* name) const;
 
