@@ -13,7 +13,7 @@ namespace {
 
 bool IsAbsolute(const char* path) { return path && *path == '/'; }
 
-// Null text when the shell's rules give no absolute path.
+// Empty when the shell's rules give no absolute path.
 SimpleString ExpandAsShell(const char* path) {
   const char* home = std::getenv("HOME");
   // An empty HOME would turn "~/x" into "/x", which is nobody's home.
