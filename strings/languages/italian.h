@@ -82,10 +82,10 @@ inline constexpr TextRow kItalianTexts[] = {
     {21111, "Blocca il salvataggio di informazioni su questo computer per questo sito"},
     // Space used by a site
     {21200, "nessuno"},
-    {21201, "%d byte"},
-    {21202, "%d kB"},
-    {21203, "%.2f MB"},
-    {21204, "%.2f GB"},
+    {21201, "%d\u00A0byte"},
+    {21202, "%d\u00A0kB"},
+    {21203, "%.2f\u00A0MB"},
+    {21204, "%.2f\u00A0GB"},
     // Private browsing
     {21300, "Navigazione anonima"},
     {21301, "In alternativa, è possibile navigare temporaneamente senza salvare la cronologia né i dati dell’archiviazione locale."},

@@ -1,6 +1,7 @@
 // Portuguese texts, as written in Brazil. Address: "você", infinitives on
 // buttons and choices.
-// Quotation marks “…”, no blank before an ellipsis or a colon.
+// Quotation marks “…”, no blank before an ellipsis or a colon; a no-break space
+// between number and unit.
 //
 // Glossary, used by every row:
 //   site ......................... site
@@ -66,14 +67,14 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {21004, "Permitir que os sites salvem informações neste computador"},
     {21005, "Perguntar antes de permitir que novos sites salvem informações neste computador"},
     {21006, "Bloquear o armazenamento de informações neste computador para todos os sites"},
-    {21007, "Configurações por site do armazenamento local…"},
+    {21007, "Configurações do armazenamento local para cada site…"},
     // Disabling local storage; adding a local storage setting for a site
     {21100, "Desativar armazenamento local"},
     {21101, "Bloquear o armazenamento de informações para todos os sites pode desativar funcionalidades em alguns sites. Isso também excluirá todos os dados armazenados por sites visitados anteriormente, que podem incluir progresso em jogos, dados de login, trabalhos salvos ou preferências."},
     {21102, "Bloquear o armazenamento de informações para todos os sites pode desativar funcionalidades em alguns sites."},
     {21103, "Isso também excluirá todos os dados armazenados por sites visitados anteriormente, que podem incluir progresso em jogos, dados de login, trabalhos salvos ou preferências."},
     {21104, "Se preferir, você pode"},
-    {21105, "navegar temporariamente sem salvar dados ou histórico."},
+    {21105, "navegar temporariamente sem salvar dados nem histórico."},
     {21106, "Saiba mais sobre os controles de privacidade"},
     {21107, "Adicionar configuração de armazenamento local para um site"},
     {21108, "Quando este site quiser usar o armazenamento local:"},
@@ -82,10 +83,10 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {21111, "Bloquear o armazenamento de informações neste computador para este site"},
     // Space used by a site
     {21200, "nenhum"},
-    {21201, "%d bytes"},
-    {21202, "%d kB"},
-    {21203, "%.2f MB"},
-    {21204, "%.2f GB"},
+    {21201, "%d\u00A0bytes"},
+    {21202, "%d\u00A0kB"},
+    {21203, "%.2f\u00A0MB"},
+    {21204, "%.2f\u00A0GB"},
     // Private browsing
     {21300, "Navegação privativa"},
     {21301, "Se preferir, você pode navegar temporariamente sem salvar o histórico nem dados no armazenamento local."},
@@ -95,21 +96,21 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {31001, "Configurações da câmera e do microfone"},
     {31002, "Perguntar quando um site quiser usar a câmera ou o microfone (recomendado)"},
     {31003, "Bloquear o uso da câmera e do microfone para todos os sites"},
-    {31004, "Configurações por site da câmera e do microfone…"},
-    {31005, "O uso da câmera e do microfone está sempre bloqueado. Isso é imposto pelo seu arquivo rql.cfg, possivelmente por decisão do administrador do sistema."},
+    {31004, "Configurações da câmera e do microfone para cada site…"},
+    {31005, "O uso da câmera e do microfone está sempre bloqueado. Essa restrição foi definida no arquivo rql.cfg, possivelmente pelo administrador do sistema."},
     {31006, "Adicionar configuração de câmera e microfone para um site"},
     {31007, "Quando este site quiser usar a câmera ou o microfone:"},
     // Playback page: peer-assisted networking
     {41000, "Reprodução"},
     {41001, "Rede assistida por pares"},
-    {41002, "A rede assistida por pares permite uma reprodução de mídia mais fluida e recursos, como bate-papo, que se conectam a outros computadores. Ela pode consumir mais largura de banda."},
+    {41002, "A rede assistida por pares permite uma reprodução de mídia mais fluida e recursos que se conectam a outros computadores, como bate-papo. Ela pode consumir mais largura de banda."},
     {41003, "Saiba mais sobre a rede assistida por pares"},
     {41004, "Perguntar quando um site quiser usar a rede assistida por pares"},
     {41005, "Bloquear o uso da rede assistida por pares para todos os sites"},
-    {41006, "Configurações por site da rede assistida por pares…"},
+    {41006, "Configurações da rede assistida por pares para cada site…"},
     // Protected content
     {41100, "Conteúdo protegido"},
-    {41101, "Se você for vender ou doar este computador, desautorize-o para impedir que o Corvane Player reproduza conteúdo protegido visto anteriormente, como filmes ou músicas que você tenha comprado."},
+    {41101, "Se você for vender ou doar este computador, desautorize-o para impedir que o Corvane Player reproduza conteúdo protegido acessado anteriormente, como filmes ou músicas que você tenha comprado."},
     {41102, "Saiba mais sobre conteúdo protegido"},
     {41103, "Desautorizar este computador…"},
     {41104, "Desautorizar este computador"},
@@ -129,7 +130,7 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {51201, "O Corvane Player pode verificar automaticamente se há atualizações para ajudar a proteger o computador. Deixar de atualizar pode tornar este computador vulnerável a ameaças de segurança."},
     {51202, "Instalar atualizações automaticamente quando disponíveis (recomendado)"},
     {51203, "Nunca verificar se há atualizações (não recomendado)"},
-    {51204, "A verificação automática de atualizações nunca é feita. Isso é imposto pelo seu arquivo rql.cfg, possivelmente por decisão do administrador do sistema."},
+    {51204, "A verificação automática de atualizações está desativada. Essa restrição foi definida no arquivo rql.cfg, possivelmente pelo administrador do sistema."},
     {51205, "Verificar agora"},
     {51206, "Verifique se há atualizações para ajudar a proteger o computador e aproveitar as novas melhorias do Corvane Player."},
     {51207, "Alterar configurações de atualização"},
@@ -155,11 +156,11 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {61002, "Acesso à rede"},
     {61003, "Acesso ao armazenamento"},
     {61004, "Espaço usado"},
-    {61005, "Configurações por site da câmera e do microfone"},
+    {61005, "Configurações da câmera e do microfone para cada site"},
     {61006, "Os sites visitados anteriormente que pediram para usar a câmera ou o microfone estão listados abaixo. Você pode permitir ou bloquear o uso da câmera e do microfone para sites específicos. Remova um site para excluir todas as configurações e todos os dados desse site no Corvane Player."},
-    {61007, "Configurações por site da rede assistida por pares"},
+    {61007, "Configurações da rede assistida por pares para cada site"},
     {61008, "Os sites visitados anteriormente que pediram para usar a rede assistida por pares estão listados abaixo. Você pode permitir ou bloquear o uso da rede assistida por pares para sites específicos. Remova um site para excluir todas as configurações e todos os dados desse site no Corvane Player."},
-    {61009, "Configurações por site do armazenamento local"},
+    {61009, "Configurações do armazenamento local para cada site"},
     {61010, "Os sites visitados anteriormente que usam o armazenamento local estão listados abaixo. Você pode permitir ou bloquear o uso do armazenamento local para sites específicos. Remova um site para excluir todas as configurações e todos os dados desse site no Corvane Player."},
     {61011, "Quando o site selecionado quiser usar a câmera ou o microfone:"},
     {61012, "Quando o site selecionado quiser usar a rede assistida por pares:"},

@@ -82,10 +82,10 @@ inline constexpr TextRow kSpanishTexts[] = {
     {21111, "Bloquear el almacenamiento de información en este equipo para este sitio"},
     // Space used by a site
     {21200, "ninguno"},
-    {21201, "%d bytes"},
-    {21202, "%d kB"},
-    {21203, "%.2f MB"},
-    {21204, "%.2f GB"},
+    {21201, "%d\u00A0bytes"},
+    {21202, "%d\u00A0kB"},
+    {21203, "%.2f\u00A0MB"},
+    {21204, "%.2f\u00A0GB"},
     // Private browsing
     {21300, "Navegación privada"},
     {21301, "Si lo prefiere, puede navegar temporalmente sin guardar historial ni datos en el almacenamiento local."},
