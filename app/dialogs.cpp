@@ -24,6 +24,10 @@ GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
 
 bool run_dialog(GnomeTCCapplet* panel, const char* dialog_id) {
   GtkWidget* dialog = get_widget(panel->builder, dialog_id);
+  // A dialog keeps its focus when it is hidden: where it was answered with the
+  // button that destroys, Enter would do so again.
+  gtk_window_set_focus(GTK_WINDOW(dialog),
+                       gtk_window_get_default_widget(GTK_WINDOW(dialog)));
   const int response = gtk_dialog_run(GTK_DIALOG(dialog));
   gtk_widget_hide(dialog);
   return response == GTK_RESPONSE_OK;

@@ -46,6 +46,17 @@ void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
   g_object_set(renderer, "text", display_text(name.c_str()).c_str(), nullptr);
 }
 
+// The UI builder packs a renderer without letting it grow, so that a name would
+// be cut in a column that has room for it.
+void ShowNames(GtkTreeViewColumn* column, GtkCellRenderer* renderer) {
+  g_object_ref(renderer);
+  gtk_cell_layout_clear(GTK_CELL_LAYOUT(column));
+  gtk_tree_view_column_pack_start(column, renderer, TRUE);
+  g_object_unref(renderer);
+  gtk_tree_view_column_set_cell_data_func(column, renderer, ShowName, nullptr,
+                                          nullptr);
+}
+
 gboolean ShowWholeName(GtkWidget* view, gint x, gint y, gboolean keyboard_mode,
                        GtkTooltip* tooltip, gpointer) {
   GtkTreeModel* model = nullptr;
@@ -94,11 +105,9 @@ void prepare_lists(GnomeTCCapplet* panel) {
   AllowSeveralRows(panel->builder);
   for (const List& list : kLists) {
     GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
-    GObject* renderer =
-        get_object(panel->builder, list.renderer, GTK_TYPE_CELL_RENDERER);
-    gtk_tree_view_column_set_cell_data_func(
-        get_column(panel->builder, list.column), GTK_CELL_RENDERER(renderer),
-        ShowName, nullptr, nullptr);
+    ShowNames(get_column(panel->builder, list.column),
+              GTK_CELL_RENDERER(get_object(panel->builder, list.renderer,
+                                           GTK_TYPE_CELL_RENDERER)));
     gtk_widget_set_has_tooltip(GTK_WIDGET(view), TRUE);
     g_signal_connect(view, "query-tooltip", G_CALLBACK(ShowWholeName), nullptr);
     g_signal_connect(view, "key-press-event", G_CALLBACK(RemoveOnDelete),
