@@ -2,7 +2,6 @@
 
 #include <bit>
 #include <cstdint>
-#include <memory>
 #include <sstream>
 
 #include "settings/settings_reader.h"
@@ -130,14 +129,18 @@ std::string Describe(const SASM::SettingsDictionary& dictionary) {
   return text;
 }
 
-std::string Describe(const Bytes& file) {
+Dictionary Read(const Bytes& file) {
   const std::unique_ptr<unsigned char[]> bytes(new unsigned char[file.size()]);
   std::ranges::copy(file, bytes.get());
   SMImplementation::SettingsReader reader(bytes.get(), file.size());
   SASM::SimpleString* name = nullptr;
-  const std::unique_ptr<SASM::SettingsDictionary> dictionary(
-      reader.GetNewSettingsData(&name));
+  Dictionary dictionary(reader.GetNewSettingsData(&name));
   delete name;
+  return dictionary;
+}
+
+std::string Describe(const Bytes& file) {
+  const Dictionary dictionary = Read(file);
   return dictionary ? Describe(*dictionary) : "rejected";
 }
 

@@ -1,6 +1,7 @@
 // Settings images: built from readable pieces, and shown as text.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -43,9 +44,13 @@ Bytes DefaultSiteFile(const std::string& domain);
 // In dictionary order: "k=1.5 b=true s='x' a=[e=true f='y'] u=?7".
 std::string Describe(const SASM::SettingsDictionary& dictionary);
 std::string Describe(const SASM::SettingDataItem& item);
-// As the program reads it, from a block of memory that ends with the image;
-// "rejected" for no dictionary.
+// As it is read, which turns the entries of each bucket round; "rejected" for
+// an image that is.
 std::string Describe(const Bytes& file);
+
+// What the program reads, from a block of memory that ends with the image.
+using Dictionary = std::unique_ptr<SASM::SettingsDictionary>;
+Dictionary Read(const Bytes& file);
 
 // The names in a list of strings or of settings.
 std::vector<std::string> NamesOf(const SASM::StringVector& list);

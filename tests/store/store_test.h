@@ -1,0 +1,73 @@
+// The settings manager on a home of the test's own.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <optional>
+
+#include "store/setting_keys.h"
+#include "store/settings_manager.h"
+#include "tests/support/home_file_manager.h"
+#include "tests/support/settings_image.h"
+
+class StoreTest : public testing::Test {
+ protected:
+  // Starts the panel's store, once more when it was started.
+  void Start() {
+    manager_.reset();
+    manager_.emplace(&files_);
+  }
+  // The master settings, with those sites listed, each with its files.
+  void Begin(std::initializer_list<std::string> sites) {
+    std::string elements;
+    for (const std::string& site : sites) {
+      elements += image::Element(site, image::Bool(1));
+      home_.Write(TemporaryHome::SettingsFileOf(site),
+                  image::DefaultSiteFile(site));
+      home_.Write(Storage(site) + "/data", "some data");
+    }
+    WriteMaster(image::Entry("domains", image::Array(elements)));
+    Start();
+  }
+  void WriteMaster(const std::string& entries) const {
+    home_.Write(TemporaryHome::MasterFile(), image::File("settings", entries));
+  }
+
+  static std::string Storage(const std::string& site) {
+    return std::string(TemporaryHome::kSharedObjects) + "/XYZ/" + site;
+  }
+  std::string Master() const { return home_.Read(TemporaryHome::MasterFile()); }
+  std::string SiteFile(const std::string& site) const {
+    return home_.Read(TemporaryHome::SettingsFileOf(site));
+  }
+  // As the file has it.
+  std::string SiteOnDisk(const std::string& site) const {
+    return image::Describe(SiteFile(site));
+  }
+  std::vector<std::string> ListedOnDisk() const {
+    const image::Dictionary master = image::Read(Master());
+    return image::NamesOf(*master->find("domains")->value.value.array);
+  }
+  std::vector<std::string> Listed() {
+    return image::NamesOf(*manager_->GetDomains());
+  }
+
+  bool SetNumber(const char* key, double value, const std::string& domain) {
+    SASM::SettingDataItem item(key, value);
+    return manager_->SetSetting(&item, key, domain.c_str());
+  }
+  // What the store holds; "none" for nothing.
+  std::string Held(const char* key, const std::string& domain) {
+    const SASM::SettingDataItem* item =
+        manager_->GetSetting(key, domain.c_str());
+    return item ? image::Describe(*item) : "none";
+  }
+  std::string Held(const char* key) {
+    return Held(key, SASM::SettingsManager::MasterDomain().c_str());
+  }
+
+  TemporaryHome home_;
+  HomeFileManager files_{home_};
+  std::optional<SASM::SettingsManager> manager_;
+};
