@@ -103,6 +103,7 @@ bool StorageSetting::CommitToAllSites() {
   const SASM::SDIVector* domains = mSettingsManager->GetDomains();
   for (unsigned int i = 0; domains && i < domains->count; ++i) {
     StorageSetting site(SASM::kStorageLimit, domains->At(i)->name);
+    if (site.is_master_) continue;  // it would come back here for ever
     deleted = site.setPermissionState(pending_state_).commit() && deleted;
   }
   return deleted;
@@ -159,7 +160,7 @@ void StorageSetting::FormatSpace(double bytes, char* buffer, int size) {
   if (size <= 0) return;
   if (!mNoneString) FetchTexts();
   const auto capacity = static_cast<std::size_t>(size);
-  if (bytes == 0) {
+  if (!(bytes > 0)) {
     std::snprintf(buffer, capacity, "%s", mNoneString);
   } else if (bytes >= kGB) {
     std::snprintf(buffer, capacity, mGBFormat,

@@ -1,7 +1,7 @@
 #include <sys/stat.h>
 
-#include "tests/store/store_test.h"
 #include "tests/support/privileges.h"
+#include "tests/support/store_test.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <ctime>
 
-#include "tests/store/store_test.h"
+#include "tests/support/store_test.h"
 
 namespace {
 

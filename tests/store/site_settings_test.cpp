@@ -1,5 +1,5 @@
-#include "tests/store/store_test.h"
 #include "tests/support/privileges.h"
+#include "tests/support/store_test.h"
 
 namespace {
 
