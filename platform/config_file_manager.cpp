@@ -61,7 +61,7 @@ File OpenForWriting(const SimpleString& path) {
 
 bool IsUtf16(const char* head) {
   for (const auto& mark : kUtf16Marks) {
-    if (std::memcmp(head, mark, sizeof mark) == 0) return true;
+    if (std::memcmp(head, mark, sizeof kUtf16Marks[0]) == 0) return true;
   }
   return false;
 }

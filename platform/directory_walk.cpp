@@ -187,6 +187,7 @@ void DirectoryWalk::VisitBatch(std::size_t size) {
 bool DirectoryWalk::CloseFarthest() {
   if (open_count_ < 2) return false;
   Level* farthest = top_;
+  // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): two are open.
   for (Level* level = top_->parent; level && level->directory.IsOpen();
        level = level->parent) {
     farthest = level;

@@ -22,6 +22,8 @@ const char* AskForVersion(void* library) {
   auto* get_value = reinterpret_cast<GetValue*>(dlsym(library, kGetValueName));
   if (!get_value) return nullptr;
   const char* description = nullptr;
+  // It takes the function's type for that of a pointer.
+  // cppcheck-suppress AssignmentAddressToInteger
   const short error = get_value(nullptr, kPluginDescription, &description);
   return error == kNoError && description ? VersionIn(description) : nullptr;
 }
