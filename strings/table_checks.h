@@ -33,7 +33,7 @@ inline constexpr std::array<unsigned int, 2> kSharedTexts[] = {
 
 // The length of the UTF-8 sequence that `text` begins with; 0 when it begins
 // with none (Unicode Standard, table 3-7).
-consteval std::size_t SequenceLength(std::string_view text) {
+constexpr std::size_t SequenceLength(std::string_view text) {
   const auto byte = [&](std::size_t i) {
     return i < text.size() ? static_cast<unsigned char>(text[i]) : 0;
   };
@@ -57,7 +57,7 @@ consteval std::size_t SequenceLength(std::string_view text) {
   return !overlong && !too_high ? 4 : 0;
 }
 
-consteval bool IsUtf8(std::string_view text) {
+constexpr bool IsUtf8(std::string_view text) {
   while (!text.empty()) {
     const std::size_t length = SequenceLength(text);
     if (length == 0) return false;
@@ -68,7 +68,7 @@ consteval bool IsUtf8(std::string_view text) {
 
 // The next placeholder, from its "%" to its conversion letter; empty at the
 // end. Takes it, and what stands before it, off `text`.
-consteval std::string_view TakePlaceholder(std::string_view* text) {
+constexpr std::string_view TakePlaceholder(std::string_view* text) {
   const std::size_t start = text->find('%');
   if (start == std::string_view::npos) return {};
   const std::size_t end = text->find_first_of("sdf%", start + 1);
@@ -78,7 +78,7 @@ consteval std::string_view TakePlaceholder(std::string_view* text) {
   return placeholder;
 }
 
-consteval bool HaveSamePlaceholders(std::string_view a, std::string_view b) {
+constexpr bool HaveSamePlaceholders(std::string_view a, std::string_view b) {
   for (;;) {
     const std::string_view placeholder = TakePlaceholder(&a);
     if (placeholder != TakePlaceholder(&b)) return false;
@@ -86,7 +86,7 @@ consteval bool HaveSamePlaceholders(std::string_view a, std::string_view b) {
   }
 }
 
-consteval Fault FaultOfText(std::string_view english, std::string_view text) {
+constexpr Fault FaultOfText(std::string_view english, std::string_view text) {
   if (text.empty()) return Fault::kTextEmpty;
   if (!IsUtf8(text)) return Fault::kInvalidUtf8;
   // Some texts are shown as markup, so that these would not be themselves.
@@ -95,7 +95,7 @@ consteval Fault FaultOfText(std::string_view english, std::string_view text) {
   return Fault::kNone;
 }
 
-consteval std::string_view TextUnder(unsigned int id,
+constexpr std::string_view TextUnder(unsigned int id,
                                      std::span<const TextRow> rows) {
   for (const TextRow& row : rows) {
     if (row.id == id) return row.text;
@@ -103,7 +103,7 @@ consteval std::string_view TextUnder(unsigned int id,
   return {};
 }
 
-consteval RowFault FirstFault(std::span<const TextRow> english,
+constexpr RowFault FirstFault(std::span<const TextRow> english,
                               std::span<const TextRow> rows) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const unsigned int id = rows[i].id;
