@@ -10,11 +10,13 @@ add_library(build_flags INTERFACE)
 target_compile_features(build_flags INTERFACE cxx_std_20)
 target_include_directories(build_flags INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(build_flags INTERFACE
-  -Wall -Wextra -Wshadow=local -Wconversion -Wformat=2
+  -Wall -Wextra -Wconversion -Wformat=2
+  # Where clang means more by a name than g++ does, g++ is meant.
+  $<IF:$<CXX_COMPILER_ID:Clang>,-Wno-sign-conversion,-Wshadow=local>
   $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
 
 # What an attacker must get past, beside being correct.
-set(hardened $<AND:$<CONFIG:Release>,$<NOT:$<BOOL:${SANITIZE}>>>)
+set(hardened $<AND:$<CONFIG:Release>,$<NOT:$<OR:$<BOOL:${SANITIZE}>,$<BOOL:${FUZZ}>>>>)
 target_compile_options(build_flags INTERFACE
   -fstack-protector-strong -fcf-protection)
 target_compile_definitions(build_flags INTERFACE
@@ -27,6 +29,14 @@ if(SANITIZE)
     -fsanitize=address,undefined -fno-sanitize=vptr
     -fno-sanitize-recover=all
     -fno-omit-frame-pointer -g)
+  target_link_options(build_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(FUZZ)
+  # The checks of the language tables take clang more steps than it allows.
+  target_compile_options(build_flags INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+    -fconstexpr-steps=100000000 -fno-omit-frame-pointer -g)
   target_link_options(build_flags INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -1,0 +1,44 @@
+// The choice of language, beside a plain model of its rules.
+#include <string>
+
+#include "fuzz/fuzz_target.h"
+#include "strings/string_manager.h"
+
+namespace {
+
+struct Rule {
+  const char* language_code;
+  int language;
+};
+constexpr Rule kRules[] = {
+    {"fr", 4},  {"ko", 7}, {"ja", 6},  {"sv", 12}, {"de", 2},
+    {"es", 3},  {"it", 5}, {"pt", 10}, {"pl", 9},  {"cs", 1},
+    {"tr", 13}, {"nl", 8}, {"ru", 11},
+};
+
+int ModelOf(const std::string& name) {
+  std::string language = name;
+  if (const auto end = name.rfind('_'); end != name.npos) {
+    language = name.substr(0, end);
+  }
+  std::string locale = name;
+  if (const auto end = name.find('.'); end != name.npos) {
+    locale = name.substr(0, end);
+  }
+  for (const Rule& rule : kRules) {
+    if (language == rule.language_code) return rule.language;
+  }
+  if (locale == "zh_HK" || locale == "zh_MO" || locale == "zh_TW") return 15;
+  return language == "zh" ? 14 : 0;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
+                                      std::size_t size) {
+  const std::string bytes(data, data + size);
+  const std::string name = bytes.c_str();
+  const int language = LanguageOfLocale(name.c_str());
+  Require(language == ModelOf(name), "the language is that of the rules");
+  return 0;
+}

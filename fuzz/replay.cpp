@@ -1,0 +1,40 @@
+// Gives a fuzz program the files named on the command line, and those in the
+// directories named there, without libFuzzer.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "fuzz/fuzz_target.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+int replayed_count = 0;
+
+void Replay(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  // A copy of exactly this size, so that a read past its end is seen.
+  const auto data = std::make_unique<std::uint8_t[]>(bytes.size());
+  std::copy(bytes.begin(), bytes.end(), data.get());
+  LLVMFuzzerTestOneInput(data.get(), bytes.size());
+  ++replayed_count;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    if (fs::is_directory(argv[i])) {
+      for (const auto& entry : fs::directory_iterator(argv[i])) {
+        if (entry.path().filename() != "README.md") Replay(entry.path());
+      }
+    } else {
+      Replay(argv[i]);
+    }
+  }
+  std::printf("%d inputs replayed\n", replayed_count);
+  return replayed_count > 0 ? 0 : 1;
+}
