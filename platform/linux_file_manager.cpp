@@ -8,6 +8,7 @@
 #include <ctime>
 #include <memory>
 #include <new>
+#include <string_view>
 
 #include "platform/home_directory.h"
 #include "platform/tree_removal.h"
@@ -130,8 +131,10 @@ SortableStringVector* LinuxFileManager::CreateNewListOfDirectoryContents(
   const std::unique_ptr<DIR, CloseDirectory> directory(opendir(path.c_str()));
   if (!directory) return names.release();
   while (const dirent* entry = readdir(directory.get())) {
+    // Compared without a copy: for want of memory ".." must not be listed.
+    const std::string_view listed = entry->d_name;
+    if (listed == "." || listed == "..") continue;
     const SimpleString name = entry->d_name;
-    if (name == "." || name == "..") continue;
     if (!names->addElement(&name)) return nullptr;
   }
   names->Sort();
