@@ -40,7 +40,7 @@ class FileManager {
   [[nodiscard]] virtual const SimpleString& GetPathSeparator() const = 0;
 
   // The user's data directories. Empty when the user has no home directory:
-  // nothing is then kept on disk.
+  // nothing is then kept on disk. Without a text when memory was short.
   [[nodiscard]] virtual const SimpleString& GetAssetCacheDirectory() const = 0;
   [[nodiscard]] virtual const SimpleString& GetUserSettingsBaseDirectory()
       const = 0;

@@ -13,7 +13,8 @@ namespace {
 
 bool IsAbsolute(const char* path) { return path && *path == '/'; }
 
-// Empty when the shell's rules give no absolute path.
+// Empty when the shell's rules give no absolute path, without a text when
+// memory is short.
 SimpleString ExpandAsShell(const char* path) {
   const char* home = std::getenv("HOME");
   // An empty HOME would turn "~/x" into "/x", which is nobody's home.
@@ -25,6 +26,7 @@ SimpleString ExpandAsShell(const char* path) {
   SimpleString first = expanded ? words.we_wordv[0] : nullptr;
   // Words may have been allocated before memory ran out (POSIX: wordexp).
   if (result == 0 || result == WRDE_NOSPACE) wordfree(&words);
+  if (result == WRDE_NOSPACE) first = SimpleString::WithoutText();
   return first;
 }
 
@@ -40,8 +42,10 @@ SimpleString ExpandFromPasswordDatabase(const char* path) {
 
 SimpleString ExpandHomeDirectory(const char* path) {
   SimpleString expanded = ExpandAsShell(path);
+  // For want of memory, not of a home: another home would be the wrong one.
+  if (!expanded.HasText()) return expanded;
   if (expanded.IsEmpty()) expanded = ExpandFromPasswordDatabase(path);
-  if (expanded.IsEmpty()) {
+  if (expanded.HasText() && expanded.IsEmpty()) {
     std::fprintf(stderr,
                  "There is no home directory for \"%s\": nothing is kept on "
                  "disk.\n",
