@@ -97,11 +97,15 @@ class HashMap {
     delete node;
   }
 
-  // Empties the map. False when memory is short: see IsUsable.
+  // Empties the map; needs no memory, so that a map in use stays usable. One
+  // that was not tries again: false when memory is still short.
   bool clear() {
-    const bool deleted = DeleteAllEntries();
-    delete[] std::exchange(buckets_, nullptr);
-    return Initialize() && deleted;
+    if (IsUsable()) {
+      while (begin_ != sentinel_) erase(begin());
+      return true;
+    }
+    DeleteAllEntries();
+    return Initialize();
   }
 
  private:
