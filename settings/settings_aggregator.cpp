@@ -70,6 +70,7 @@ void SettingsAggregator::WriteDouble(double value) {
 
 void SettingsAggregator::WriteSimpleStringAsPString(
     const SASM::SimpleString& text) {
+  if (!text.HasText()) failed_ = true;
   const char* bytes = text.HasText() ? text.c_str() : "";
   const std::size_t size = strnlen(bytes, kLongestText);
   WriteU16(static_cast<unsigned short>(size));

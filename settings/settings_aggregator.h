@@ -24,7 +24,8 @@ class SettingsAggregator {
   void WriteU16(unsigned short value);
   void WriteU32(unsigned int value);
   void WriteDouble(double value);
-  // A text longer than 65535 bytes is cut there.
+  // A text longer than 65535 bytes is cut there. A string without a text is
+  // lost like an append without memory.
   void WriteSimpleStringAsPString(const SASM::SimpleString& text);
   void WriteSettingsDataType(SASM::_SettingsDataType type);
 

@@ -23,7 +23,7 @@ SettingsDictionary* SettingsReader::GetNewSettingsData(SimpleString** name) {
   if (!ReadHeaders(name)) return nullptr;
   std::unique_ptr<SettingsDictionary> dictionary(new (std::nothrow)
                                                      SettingsDictionary);
-  if (!dictionary || !dictionary->IsUsable()) return nullptr;
+  if (!HadMemory(dictionary && dictionary->IsUsable())) return nullptr;
   while (!AtEnd()) {
     SettingDataItem item;
     const Entry entry = ReadEntry(&item);
@@ -31,7 +31,7 @@ SettingsDictionary* SettingsReader::GetNewSettingsData(SimpleString** name) {
     if (entry == Entry::kDropped) continue;
     SimpleString key = item.name;
     const auto stored = dictionary->insert(std::move(key), std::move(item));
-    if (stored == dictionary->end()) return nullptr;
+    if (!HadMemory(stored != dictionary->end())) return nullptr;
   }
   return dictionary.release();
 }
@@ -82,14 +82,15 @@ SettingsReader::Entry SettingsReader::ReadEntry(SettingDataItem* item) {
     return Entry::kRejected;
   }
   if (type > SASM::kSettingsDataTypeArray) return Entry::kDropped;
-  return item->IsWhole() ? Entry::kRead : Entry::kRejected;
+  return HadMemory(item->IsWhole()) ? Entry::kRead : Entry::kRejected;
 }
 
 SDIVector* SettingsReader::ReadArray() {
   std::unique_ptr<SDIVector> array(new (std::nothrow) SDIVector);
-  if (!array) return nullptr;
+  if (!HadMemory(array != nullptr)) return nullptr;
   for (;;) {
     SimpleString name = ReadText();
+    if (!HadMemory(name.HasText())) return nullptr;
     if (name.IsEmpty()) break;
     const unsigned char type = ReadU8();
     if (type == SASM::kSettingsDataTypeArray) {
@@ -102,7 +103,8 @@ SDIVector* SettingsReader::ReadArray() {
           "IGNORING VALUE.");
     } else {
       SettingDataItem element = ReadScalar(type, std::move(name));
-      if (!array->adoptElement(SDIVector::NewMoved(std::move(element)))) {
+      if (!HadMemory(
+              array->adoptElement(SDIVector::NewMoved(std::move(element))))) {
         return nullptr;
       }
     }
@@ -137,6 +139,11 @@ const unsigned char* SettingsReader::Take(std::uint64_t count,
 bool SettingsReader::Reject(const char* what) {
   fault_ = {what, position_};
   return false;
+}
+
+bool SettingsReader::HadMemory(bool had) {
+  if (!had) short_of_memory_ = true;
+  return had;
 }
 
 void SettingsReader::Report(const char* message) {
@@ -179,7 +186,10 @@ SimpleString SettingsReader::ReadText() {
 }
 
 SimpleString* SettingsReader::ReadAndCopyPStringAsSimpleString() {
-  return new (std::nothrow) SimpleString(ReadText());
+  // First the text: without memory for the object the argument of its
+  // constructor would not be evaluated, and the text not be taken.
+  SimpleString text = ReadText();
+  return new (std::nothrow) SimpleString(std::move(text));
 }
 
 }  // namespace SMImplementation

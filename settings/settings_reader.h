@@ -52,6 +52,10 @@ class SettingsReader {
   // Bytes taken so far.
   [[nodiscard]] std::uint64_t Position() const { return position_; }
 
+  // True when it was memory that the reader was short of: a null dictionary
+  // and a rejected entry then say nothing about the image.
+  [[nodiscard]] bool WasShortOfMemory() const { return short_of_memory_; }
+
   // The last thing that was found wrong: a constant text, null when nothing
   // was, and the offset in bytes at which it was found.
   struct Fault {
@@ -65,6 +69,8 @@ class SettingsReader {
   const unsigned char* Take(std::uint64_t count, const char* message);
   bool Reject(const char* what);
   void Report(const char* message);
+  // False, having noted that memory is short, unless `had` is true.
+  [[nodiscard]] bool HadMemory(bool had);
   SASM::SimpleString ReadText();
   // Null when the array is not closed or memory is short.
   [[nodiscard]] SASM::SDIVector* ReadArray();
@@ -76,6 +82,7 @@ class SettingsReader {
   std::uint64_t size_;
   std::uint64_t position_ = 0;
   Fault fault_;
+  bool short_of_memory_ = false;
 };
 
 }  // namespace SMImplementation
