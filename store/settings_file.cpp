@@ -40,6 +40,7 @@ std::size_t ReadBytes(int descriptor, unsigned char* bytes, std::size_t size) {
 }  // namespace
 
 bool ReadFileImage(const SimpleString& path, FileImage* image) {
+  image->short_of_memory = !path.HasText();
   if (path.IsEmpty()) return false;
   FileDescriptor file(
       open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -47,8 +48,10 @@ bool ReadFileImage(const SimpleString& path, FileImage* image) {
     return false;
   }
   image->bytes.reset(new (std::nothrow) unsigned char[image->size]);
+  image->short_of_memory = !image->bytes;
+  if (image->short_of_memory) return false;
   const std::size_t taken =
-      image->bytes ? ReadBytes(file.Get(), image->bytes.get(), image->size) : 0;
+      ReadBytes(file.Get(), image->bytes.get(), image->size);
   const bool read = taken == image->size || image->size < kReadAtOnce;
   image->size = taken;
   if (!read) {
@@ -65,11 +68,17 @@ bool ReadFileImage(const SimpleString& path, FileImage* image) {
 }
 
 SettingsDictionary* ReadSettingsFile(const SimpleString& path,
-                                     SimpleString** name) {
+                                     SimpleString** name,
+                                     bool* short_of_memory) {
   FileImage image;
-  if (!ReadFileImage(path, &image)) return nullptr;
-  return SMImplementation::SettingsReader(image.bytes.get(), image.size)
-      .GetNewSettingsData(name);
+  const bool has_image = ReadFileImage(path, &image);
+  SMImplementation::SettingsReader reader(image.bytes.get(), image.size);
+  SettingsDictionary* dictionary =
+      has_image ? reader.GetNewSettingsData(name) : nullptr;
+  if (short_of_memory) {
+    *short_of_memory = image.short_of_memory || reader.WasShortOfMemory();
+  }
+  return dictionary;
 }
 
 bool WriteFileImage(const SimpleString& path, const unsigned char* bytes,

@@ -12,6 +12,8 @@ namespace SASM {
 struct FileImage {
   std::unique_ptr<unsigned char[]> bytes;
   std::size_t size = 0;
+  // True when it is not known what the file holds.
+  bool short_of_memory = false;
 };
 
 // False without a message when the file cannot be opened, is no regular file,
@@ -23,10 +25,12 @@ struct FileImage {
 inline constexpr std::size_t kLargestSettingsFile = std::size_t{256} << 20;
 
 // The dictionary in a settings file, owned by the caller; null when there is
-// no image or the reader rejects it. `*name` becomes a new string with the
-// name the file carries, owned by the caller, or stays as it was.
-[[nodiscard]] SettingsDictionary* ReadSettingsFile(const SimpleString& path,
-                                                   SimpleString** name);
+// no image or the reader rejects it, or when memory is short, which
+// `*short_of_memory` then tells. `*name` becomes a new string with the name
+// the file carries, owned by the caller, or stays as it was.
+[[nodiscard]] SettingsDictionary* ReadSettingsFile(
+    const SimpleString& path, SimpleString** name,
+    bool* short_of_memory = nullptr);
 
 // Creates the file, or empties it, and writes the bytes. Never through a link
 // in the file's place. False when not every byte was written.

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "platform/link_check.h"
 #include "settings/settings_writer.h"
 #include "store/default_settings.h"
 #include "store/setting_keys.h"
@@ -16,6 +17,12 @@ namespace {
 const SimpleString& ThisDirectory() {
   static const SimpleString name(".");
   return name;
+}
+
+// Kept: a list that is not found for want of a key would seem to be missing.
+const SimpleString& DomainsKey() {
+  static const SimpleString key(kDomains);
+  return key;
 }
 
 }  // namespace
@@ -44,15 +51,25 @@ SettingsDictionary* SettingsManager::LoadedDictionary(
 SettingsDictionary* SettingsManager::EnsureSettingsAreLoadedForDomain(
     const SimpleString& domain) {
   if (SettingsDictionary* loaded = LoadedDictionary(domain)) return loaded;
-  SimpleString* name = nullptr;
-  SettingsDictionary* read =
-      GetNewSettingsDataFromFile(mLayout.SettingsFileOf(domain), &name);
-  delete name;
+  SettingsDictionary* read = nullptr;
+  if (!ReadDictionary(domain, &read)) return nullptr;
   if (read) return AddDictionary(domain, read);
   SettingsDictionary* empty =
       AddDictionary(domain, new (std::nothrow) SettingsDictionary);
   if (empty) SynchronizeSettingsForDomain(domain);
   return empty;
+}
+
+bool SettingsManager::ReadDictionary(const SimpleString& domain,
+                                     SettingsDictionary** dictionary) const {
+  *dictionary = nullptr;
+  if (!mLayout.IsOnDisk()) return true;
+  SimpleString* name = nullptr;
+  bool short_of_memory = false;
+  *dictionary =
+      ReadSettingsFile(mLayout.SettingsFileOf(domain), &name, &short_of_memory);
+  delete name;
+  return *dictionary || !short_of_memory;
 }
 
 SettingsDictionary* SettingsManager::AddDictionary(
@@ -82,21 +99,28 @@ bool SettingsManager::SynchronizeSettingsForDomain(const SimpleString& domain) {
       .GetNewSettingsWithName(mLayout.DictionaryNameOf(domain), &data, size);
   const std::unique_ptr<unsigned char[]> image(data);
   if (!image) return false;
+  // Before the old file goes, all is had that the new one needs.
+  const SimpleString file = mLayout.SettingsFileOf(domain);
+  if (!IsOfStore(file)) return false;
   // What it cannot create, the writing will miss.
   (void)mFileManager->CreateDirectoryAtPath(mLayout.DirectoryOf(domain),
                                             ThisDirectory());
-  return DeleteDomainSettingsFile(domain, true) &&
-         WriteFileImage(mLayout.SettingsFileOf(domain), image.get(), size);
+  return mFileManager->RemoveFileAtPath(file) &&
+         WriteFileImage(file, image.get(), size);
 }
 
 bool SettingsManager::DeleteDomainSettingsFile(const SimpleString& domain,
                                                bool file_only) {
   if (!mLayout.IsOnDisk()) return true;
-  if (file_only || domain == MasterDomain()) {
-    return mFileManager->RemoveFileAtPath(mLayout.SettingsFileOf(domain));
-  }
-  return StaysInside(domain) &&
-         mFileManager->RemoveFileAtPath(mLayout.DirectoryOf(domain));
+  const bool is_file = file_only || domain == MasterDomain();
+  if (!is_file && !StaysInside(domain)) return false;
+  const SimpleString path =
+      is_file ? mLayout.SettingsFileOf(domain) : mLayout.DirectoryOf(domain);
+  return IsOfStore(path) && mFileManager->RemoveFileAtPath(path);
+}
+
+bool SettingsManager::IsOfStore(const SimpleString& path) const {
+  return path.HasText() && !LeadsThroughLink(mLayout.SettingsDirectory(), path);
 }
 
 bool SettingsManager::HasSetting(const SimpleString& key,
@@ -142,13 +166,12 @@ StringVector* SettingsManager::GetNewSettingKeys(const SimpleString& domain) {
 }
 
 bool SettingsManager::LoadMasterSettingsFromDisk() {
-  SimpleString* name = nullptr;
-  SettingsDictionary* read =
-      GetNewSettingsDataFromFile(mLayout.SettingsFileOf(MasterDomain()), &name);
-  delete name;
+  SettingsDictionary* read = nullptr;
+  if (!ReadDictionary(MasterDomain(), &read)) return false;
   DeleteAllDictionaries();
-  AddDictionary(MasterDomain(),
-                read ? read : new (std::nothrow) SettingsDictionary);
+  SettingsDictionary* master = AddDictionary(
+      MasterDomain(), read ? read : new (std::nothrow) SettingsDictionary);
+  if (!master) return false;
   if (!read) SynchronizeSettingsForDomain(MasterDomain());
   WriteOrUpdateDefaultMasterSettings();
   if (!StoredDomains()) StoreEmptyDomains();
@@ -157,32 +180,37 @@ bool SettingsManager::LoadMasterSettingsFromDisk() {
 }
 
 bool SettingsManager::WriteOrUpdateDefaultMasterSettings() {
-  InsertMissing(DefaultMasterSettings(), MasterDomain());
-  return SynchronizeSettingsForDomain(MasterDomain());
+  return InsertMissing(DefaultMasterSettings(), MasterDomain()) &&
+         SynchronizeSettingsForDomain(MasterDomain());
 }
 
-void SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
+bool SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
                                     const SimpleString& domain) {
   SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
-  if (!dictionary) return;
+  if (!dictionary) return false;
+  bool all_are_there = true;
   for (const DefaultSetting& row : rows) {
     const SimpleString key = row.key;
     if (dictionary->find(key) != dictionary->end()) continue;
     const SettingDataItem* master_item =
         row.master_key ? GetSetting(row.master_key, MasterDomain()) : nullptr;
     SettingDataItem item = MakeDefaultItem(row, master_item);
-    if (item.IsWhole()) dictionary->insert(key, std::move(item));
+    all_are_there =
+        item.IsWhole() &&
+        dictionary->insert(key, std::move(item)) != dictionary->end() &&
+        all_are_there;
   }
+  return all_are_there;
 }
 
 SDIVector* SettingsManager::StoredDomains() {
-  return ArrayOrNull(GetSetting(kDomains, MasterDomain()));
+  return ArrayOrNull(GetSetting(DomainsKey(), MasterDomain()));
 }
 
 bool SettingsManager::StoreEmptyDomains() {
   const SDIVector empty;
   SettingDataItem item(kDomains, kSettingsDataTypeArray, &empty);
-  return SetSetting(&item, kDomains, MasterDomain());
+  return SetSetting(&item, DomainsKey(), MasterDomain());
 }
 
 SDIVector* SettingsManager::GetDomains() {
@@ -195,16 +223,18 @@ void SettingsManager::VerifyDomainsList() {
   SDIVector* domains = StoredDomains();
   if (!domains || !mLayout.IsOnDisk()) return;
   domains->removeElementsIf([this](const void* element) {
-    const auto* domain = static_cast<const SettingDataItem*>(element);
-    const SimpleString file = mLayout.SettingsFileOf(domain->name);
+    const SimpleString& domain =
+        static_cast<const SettingDataItem*>(element)->name;
+    if (!HasPlace(domain)) return true;
+    const SimpleString file = mLayout.SettingsFileOf(domain);
     return file.HasText() && mFileManager->SizeOfFileAtPath(file) == 0;
   });
 }
 
 bool SettingsManager::WriteOrUpdateSettingsForDomain(
     const SimpleString& domain) {
-  InsertMissing(DefaultDomainSettings(), domain);
-  return SynchronizeSettingsForDomain(domain);
+  return InsertMissing(DefaultDomainSettings(), domain) &&
+         SynchronizeSettingsForDomain(domain);
 }
 
 bool SettingsManager::AddDomainWithDefaultSettings(const SimpleString& domain) {

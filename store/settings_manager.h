@@ -42,14 +42,16 @@ class SettingsManager {
 
   // The domain's dictionary, owned by the manager. A domain without a
   // readable file gets an empty dictionary and at once a file of it, also
-  // when it is only asked for. Null when memory is short.
+  // when it is only asked for. Null when memory is short, the file is then as
+  // before, and for a name that leads out of the settings directory.
   SettingsDictionary* EnsureSettingsAreLoadedForDomain(
       const SimpleString& domain);
   // See ReadSettingsFile.
   [[nodiscard]] SettingsDictionary* GetNewSettingsDataFromFile(
       const SimpleString& path, SimpleString** name);
   // Rewrites the domain's file: the old one is removed, then the new one
-  // written. False when there is now no file or a short one.
+  // written. False when there is now no file or a short one, and, with
+  // nothing changed, when the domain's directory is a link to another.
   bool SynchronizeSettingsForDomain(const SimpleString& domain);
   // Removes the domain's settings file, or its whole directory unless
   // `file_only`; of the master domain always the file alone. True also when
@@ -76,7 +78,8 @@ class SettingsManager {
 
   // --- Master settings and the list of domains
 
-  // Always true: a missing or rejected file is replaced by one of defaults.
+  // A missing or rejected file is replaced by one of defaults. False only
+  // when memory is short: a file that could not be read for that stays.
   bool LoadMasterSettingsFromDisk();
   // Adds the missing default keys and writes, also when none was missing; the
   // result of the write.
@@ -132,9 +135,18 @@ class SettingsManager {
   SettingsDictionary* AddDictionary(const SimpleString& domain,
                                     SettingsDictionary* dictionary);
   void DeleteAllDictionaries();
-  // Inserts copies of the rows whose keys the domain lacks.
-  void InsertMissing(std::span<const DefaultSetting> rows,
-                     const SimpleString& domain);
+  // The domain's dictionary in `*dictionary`, owned by the caller; null when
+  // there is none to be had from its file. False when memory is short, and
+  // it is not known what the file holds.
+  [[nodiscard]] bool ReadDictionary(const SimpleString& domain,
+                                    SettingsDictionary** dictionary) const;
+  // False for a path below the settings directory that leads over a link:
+  // whoever made the link would choose what is changed.
+  [[nodiscard]] bool IsOfStore(const SimpleString& path) const;
+  // Inserts copies of the rows whose keys the domain lacks. False when memory
+  // is short.
+  [[nodiscard]] bool InsertMissing(std::span<const DefaultSetting> rows,
+                                   const SimpleString& domain);
   // The list as it is stored, without loading anything; null when missing.
   [[nodiscard]] SDIVector* StoredDomains();
   bool StoreEmptyDomains();

@@ -1,14 +1,17 @@
 // Removal of site data, and sizes.
 #include <memory>
 
+#include "platform/link_check.h"
 #include "store/settings_manager.h"
 
 namespace SASM {
 
 bool SettingsManager::DeleteDomainStorage(const SimpleString& domain) {
   if (!StaysInside(domain)) return false;
-  return !mLayout.IsOnDisk() ||
-         mFileManager->RemoveFileAtPath(mLayout.LocalStorageOf(domain));
+  if (!mLayout.IsOnDisk()) return true;
+  const SimpleString path = mLayout.LocalStorageOf(domain);
+  return !LeadsThroughLink(mLayout.LocalStorageRoot(), path) &&
+         mFileManager->RemoveFileAtPath(path);
 }
 
 bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,

@@ -17,6 +17,17 @@ constexpr char kDomainDirectoryPrefix[] = "#";
 constexpr char kMasterDictionaryName[] = "settings";
 constexpr char kDomainDictionarySuffix[] = "/settings";
 
+bool HasDotComponent(const char* path) {
+  while (path) {
+    const char* slash = std::strchr(path, '/');
+    const std::string_view component =
+        slash ? std::string_view(path, slash) : std::string_view(path);
+    if (component == "." || component == "..") return true;
+    path = slash ? slash + 1 : nullptr;
+  }
+  return false;
+}
+
 // Without a text when one of the two is.
 void Append(SimpleString* text, const SimpleString& tail) {
   if (!tail.HasText()) *text = SimpleString::WithoutText();
@@ -32,7 +43,9 @@ StoreLayout::StoreLayout(const FileManager* file_manager)
   mSharedObjectsDirectory = LocalStorageRoot();
   const std::unique_ptr<StringVector> names(
       mFileManager->CreateNewListOfDirectoryContents(mSharedObjectsDirectory));
-  if (names && names->count > 0) {
+  if (!names) {
+    mSharedObjectsDirectory = SimpleString::WithoutText();
+  } else if (names->count > 0) {
     mSharedObjectsDirectory =
         Join(mSharedObjectsDirectory, SimpleString(names->TextAt(0)));
   }
@@ -54,6 +67,7 @@ SimpleString StoreLayout::SettingsDirectory() const {
 
 SimpleString StoreLayout::DirectoryOf(const SimpleString& domain) const {
   if (domain == MasterDomainName()) return SettingsDirectory();
+  if (!HasPlace(domain)) return SimpleString::WithoutText();
   SimpleString name = kDomainDirectoryPrefix;
   Append(&name, domain);
   return Join(SettingsDirectory(), name);
@@ -83,16 +97,15 @@ const SimpleString& MasterDomainName() {
   return name;
 }
 
+bool HasPlace(const SimpleString& domain) {
+  // The first component comes behind the prefix, and is then no "..".
+  const char* slash = domain.HasText() ? std::strchr(domain.c_str(), '/') : "";
+  return !slash || !HasDotComponent(slash);
+}
+
 bool StaysInside(const SimpleString& domain) {
-  if (domain.IsEmpty() || *domain.c_str() == '/') return false;
-  for (const char* part = domain.c_str(); part;) {
-    const char* slash = std::strchr(part, '/');
-    const std::string_view component =
-        slash ? std::string_view(part, slash) : std::string_view(part);
-    if (component == "." || component == "..") return false;
-    part = slash ? slash + 1 : nullptr;
-  }
-  return true;
+  return !domain.IsEmpty() && *domain.c_str() != '/' &&
+         !HasDotComponent(domain.c_str());
 }
 
 }  // namespace SASM

@@ -16,13 +16,16 @@ class StoreLayout {
   // borrowed and outlives the layout.
   explicit StoreLayout(const FileManager* file_manager);
 
-  // False when the user has no home directory: there are no paths then.
-  [[nodiscard]] bool IsOnDisk() const { return !mBaseDirectory.IsEmpty(); }
+  // False when the user has no home directory: there are no paths then. True
+  // when memory was too short to tell: every path is then without a text.
+  [[nodiscard]] bool IsOnDisk() const {
+    return !mBaseDirectory.HasText() || !mBaseDirectory.IsEmpty();
+  }
 
   // The directory of the master settings file and of all domain directories.
   [[nodiscard]] SimpleString SettingsDirectory() const;
   // The directory of a domain's settings file; of the master domain, the
-  // settings directory.
+  // settings directory. Without a text where HasPlace is false.
   [[nodiscard]] SimpleString DirectoryOf(const SimpleString& domain) const;
   [[nodiscard]] SimpleString SettingsFileOf(const SimpleString& domain) const;
   // The name a domain's settings file carries inside.
@@ -49,6 +52,11 @@ class StoreLayout {
 // The reserved domain name under which the global settings are kept. Lives to
 // the end of the process.
 [[nodiscard]] const SimpleString& MasterDomainName();
+
+// True when the settings of a domain of this name lie below the settings
+// directory. The name may be odd, but has no component "." or ".." after a
+// "/", which could lead out of there.
+[[nodiscard]] bool HasPlace(const SimpleString& domain);
 
 // True when a path made with this domain name as its last part stays below
 // the directory before it: the name is neither empty nor absolute and has no
