@@ -131,7 +131,8 @@ class RecordReader {
 
 // A single directory entry, whatever the site's name is.
 std::string EntryName(const std::string& site) {
-  std::string name = "#" + site.substr(0, site.find('\0'));
+  std::string name = site.substr(0, site.find('\0'));
+  name.insert(name.begin(), '#');
   std::ranges::replace(name, '/', '!');
   return name;
 }
