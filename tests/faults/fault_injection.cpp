@@ -1,0 +1,270 @@
+#include "tests/faults/fault_injection.h"
+
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdarg>
+#include <cstdlib>
+#include <new>
+
+#ifndef __SANITIZE_ADDRESS__
+extern "C" {
+void* __libc_malloc(std::size_t);
+void* __libc_calloc(std::size_t, std::size_t);
+void* __libc_realloc(void*, std::size_t);
+}
+#endif
+
+namespace {
+
+struct State {
+  bool armed = false;
+  faults::Fault fault = {};
+  int calls_left = 0;
+  bool met = false;
+};
+State state;
+long live_allocations = 0;
+
+// What a call is to do.
+enum class Verdict { kPass, kFail, kHalf, kHalfThenEnd };
+
+Verdict MeetFault() {
+  using faults::Effect;
+  state.met = true;
+  switch (state.fault.effect) {
+    case Effect::kFail:
+    case Effect::kFailOnwards:
+      return Verdict::kFail;
+    case Effect::kShortWrite:
+    case Effect::kDiskFull:
+      return Verdict::kHalf;
+    case Effect::kKill:
+      _exit(faults::kKilled);
+    case Effect::kKillHalfway:
+      return Verdict::kHalfThenEnd;
+  }
+  return Verdict::kPass;
+}
+
+Verdict Judge(unsigned int call) {
+  using faults::Effect;
+  if (!state.armed) return Verdict::kPass;
+  const bool lasts = state.fault.effect == Effect::kFailOnwards;
+  const bool is_full = state.fault.effect == Effect::kDiskFull && state.met;
+  if (is_full && (call & (faults::kWrite | faults::kMkdir | faults::kCreate))) {
+    return Verdict::kFail;
+  }
+  if (!(call & state.fault.calls)) return Verdict::kPass;
+  if (state.met) return lasts ? Verdict::kFail : Verdict::kPass;
+  return state.calls_left-- == 0 ? MeetFault() : Verdict::kPass;
+}
+
+// True when the call is to fail; errno is then set.
+bool Fails(unsigned int call) {
+  if (Judge(call) == Verdict::kPass) return false;
+  errno = state.fault.error;
+  return true;
+}
+
+unsigned int OpenCalls(int flags) {
+  const bool creates = flags & (O_CREAT | O_TRUNC);
+  return faults::kOpen | (creates ? faults::kCreate : 0U);
+}
+
+// The function that would have been called.
+template <typename Function>
+Function* Next(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+void* Allocate(std::size_t size) {
+  if (Fails(faults::kAllocate)) return nullptr;
+#ifdef __SANITIZE_ADDRESS__
+  void* memory = std::malloc(size);
+#else
+  void* memory = __libc_malloc(size);
+#endif
+  if (memory) ++live_allocations;
+  return memory;
+}
+
+void* AllocateOrEnd(std::size_t size) {
+  void* memory = Allocate(size);
+  if (!memory) std::abort();  // nobody handles bad_alloc
+  return memory;
+}
+
+void Free(void* memory) {
+  if (memory) --live_allocations;
+  std::free(memory);
+}
+
+}  // namespace
+
+namespace faults {
+
+void Arm(const Fault& fault, int n) { state = {true, fault, n, false}; }
+
+bool Disarm() {
+  state.armed = false;
+  return state.met;
+}
+
+long LiveAllocations() { return live_allocations; }
+
+}  // namespace faults
+
+void* operator new(std::size_t size) { return AllocateOrEnd(size); }
+void* operator new[](std::size_t size) { return AllocateOrEnd(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return Allocate(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+  return Allocate(size);
+}
+void operator delete(void* memory) noexcept { Free(memory); }
+void operator delete[](void* memory) noexcept { Free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { Free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { Free(memory); }
+
+extern "C" {
+
+#ifndef __SANITIZE_ADDRESS__
+// What the C library allocates for itself. A sanitizer has its own.
+#pragma GCC visibility push(default)
+void* malloc(std::size_t size) {
+  return Fails(faults::kAllocate) ? nullptr : __libc_malloc(size);
+}
+void* calloc(std::size_t count, std::size_t size) {
+  return Fails(faults::kAllocate) ? nullptr : __libc_calloc(count, size);
+}
+void* realloc(void* memory, std::size_t size) {
+  return Fails(faults::kAllocate) ? nullptr : __libc_realloc(memory, size);
+}
+#pragma GCC visibility pop
+#endif
+
+int open(const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  static auto* next = Next<int(const char*, int, ...)>("open");
+  return Fails(OpenCalls(flags)) ? -1 : next(path, flags, mode);
+}
+
+int openat(int directory, const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  static auto* next = Next<int(int, const char*, int, ...)>("openat");
+  return Fails(OpenCalls(flags)) ? -1 : next(directory, path, flags, mode);
+}
+
+ssize_t read(int file, void* bytes, std::size_t size) {
+  static auto* next = Next<ssize_t(int, void*, std::size_t)>("read");
+  return Fails(faults::kRead) ? -1 : next(file, bytes, size);
+}
+
+ssize_t write(int file, const void* bytes, std::size_t size) {
+  static auto* next = Next<ssize_t(int, const void*, std::size_t)>("write");
+  switch (Judge(faults::kWrite)) {
+    case Verdict::kPass:
+      return next(file, bytes, size);
+    case Verdict::kHalf:
+      if (size > 1) return next(file, bytes, size / 2);
+      break;
+    case Verdict::kHalfThenEnd:
+      (void)next(file, bytes, size / 2);
+      _exit(faults::kKilled);
+    case Verdict::kFail:
+      break;
+  }
+  errno = state.fault.error;
+  return -1;
+}
+
+// As on Linux, the descriptor is gone also when closing fails.
+int close(int file) {
+  static auto* next = Next<int(int)>("close");
+  const int result = next(file);
+  return Fails(faults::kClose) ? -1 : result;
+}
+
+int mkdir(const char* path, mode_t mode) {
+  static auto* next = Next<int(const char*, mode_t)>("mkdir");
+  return Fails(faults::kMkdir) ? -1 : next(path, mode);
+}
+
+int unlink(const char* path) {
+  static auto* next = Next<int(const char*)>("unlink");
+  return Fails(faults::kUnlink) ? -1 : next(path);
+}
+
+int rmdir(const char* path) {
+  static auto* next = Next<int(const char*)>("rmdir");
+  return Fails(faults::kRmdir) ? -1 : next(path);
+}
+
+int unlinkat(int directory, const char* path, int flags) {
+  static auto* next = Next<int(int, const char*, int)>("unlinkat");
+  const bool is_rmdir = flags & AT_REMOVEDIR;
+  if (Fails(is_rmdir ? faults::kRmdir : faults::kUnlink)) return -1;
+  return next(directory, path, flags);
+}
+
+DIR* opendir(const char* path) {
+  static auto* next = Next<DIR*(const char*)>("opendir");
+  return Fails(faults::kOpendir) ? nullptr : next(path);
+}
+
+dirent* readdir(DIR* directory) {
+  static auto* next = Next<dirent*(DIR*)>("readdir");
+  return Fails(faults::kReaddir) ? nullptr : next(directory);
+}
+
+ssize_t getdents64(int directory, void* buffer, std::size_t size) {
+  static auto* next = Next<ssize_t(int, void*, std::size_t)>("getdents64");
+  return Fails(faults::kReaddir) ? -1 : next(directory, buffer, size);
+}
+
+int access(const char* path, int mode) {
+  static auto* next = Next<int(const char*, int)>("access");
+  return Fails(faults::kStat) ? -1 : next(path, mode);
+}
+
+int stat(const char* path, struct stat* info) {
+  static auto* next = Next<int(const char*, struct stat*)>("stat");
+  return Fails(faults::kStat) ? -1 : next(path, info);
+}
+
+int lstat(const char* path, struct stat* info) {
+  static auto* next = Next<int(const char*, struct stat*)>("lstat");
+  return Fails(faults::kStat) ? -1 : next(path, info);
+}
+
+int fstat(int file, struct stat* info) {
+  static auto* next = Next<int(int, struct stat*)>("fstat");
+  return Fails(faults::kStat) ? -1 : next(file, info);
+}
+
+int fstatat(int directory, const char* path, struct stat* info, int flags) {
+  static auto* next = Next<int(int, const char*, struct stat*, int)>("fstatat");
+  return Fails(faults::kStat) ? -1 : next(directory, path, info, flags);
+}
+
+// The home directory of the password database, where HOME gives none.
+passwd* getpwuid(uid_t) {
+  static passwd user = {};
+  user.pw_dir = std::getenv("PASSWORD_DATABASE_HOME");
+  return user.pw_dir ? &user : nullptr;
+}
+
+}  // extern "C"

@@ -1,0 +1,58 @@
+// Failing system calls and allocations, on demand.
+#pragma once
+
+#include <string>
+
+// A program linked with these gets the calls of its own code through them:
+// they stand in for the C library's functions and for operator new. As long
+// as no fault is armed they only pass on, and count.
+namespace faults {
+
+// What can fail. Values are bits, so that a fault can count several together.
+enum Call : unsigned int {
+  kOpen = 1 << 0,  // open and openat
+  kRead = 1 << 1,
+  kWrite = 1 << 2,
+  kClose = 1 << 3,
+  kMkdir = 1 << 4,
+  kUnlink = 1 << 5,
+  kRmdir = 1 << 6,
+  kOpendir = 1 << 7,
+  kReaddir = 1 << 8,  // readdir and getdents64
+  kStat = 1 << 9,     // stat, fstat, fstatat and access
+  kAllocate = 1 << 10,
+  kCreate = 1 << 11,  // the open calls that create or empty a file
+
+  // The calls that change the disk.
+  kChangesDisk = kCreate | kWrite | kMkdir | kUnlink | kRmdir,
+};
+
+enum class Effect {
+  kFail,         // that one call fails
+  kFailOnwards,  // that one and all after it
+  kShortWrite,   // it writes half of its bytes
+  kDiskFull,     // it writes half of its bytes; nothing fits after that
+  kKill,         // the process ends in front of it
+  kKillHalfway,  // the process ends when half of its bytes are written
+};
+
+struct Fault {
+  const char* name;
+  unsigned int calls;
+  Effect effect;
+  int error;  // errno of the call that fails
+};
+
+// The n-th call that the fault counts, from 0, meets it. Forgets what was
+// armed before.
+void Arm(const Fault& fault, int n);
+// Back to normal. True when the fault was met.
+bool Disarm();
+
+// Allocations of operator new that have not been freed.
+[[nodiscard]] long LiveAllocations();
+
+// The status with which kKill ends the process.
+inline constexpr int kKilled = 77;
+
+}  // namespace faults
