@@ -168,6 +168,13 @@ int openat(int directory, const char* path, int flags, ...) {
   return Fails(OpenCalls(flags)) ? -1 : next(directory, path, flags, mode);
 }
 
+// What the two above are with _FORTIFY_SOURCE and flags the compiler does not
+// know.
+int __open_2(const char* path, int flags) { return open(path, flags); }
+int __openat_2(int directory, const char* path, int flags) {
+  return openat(directory, path, flags);
+}
+
 ssize_t read(int file, void* bytes, std::size_t size) {
   static auto* next = Next<ssize_t(int, void*, std::size_t)>("read");
   return Fails(faults::kRead) ? -1 : next(file, bytes, size);

@@ -78,10 +78,11 @@ std::string CheckRemoved(Panel& panel, const Outcome& outcome) {
   const std::string file = Home::SettingsFileOf("a.example");
   if (outcome.result) return is_listed ? "removed, but listed" : "";
   const bool has_file = outcome.after.contains(file);
-  if (!is_listed && has_file) return "not listed, but the file is there";
   const bool has_storage =
       outcome.after.contains(kStored + "a.example/one.sol");
-  return has_storage && !has_file ? "storage outlives the settings" : "";
+  return is_listed && has_storage && !has_file
+             ? "the settings went before the storage"
+             : "";
 }
 
 std::string CheckBlocked(Panel& panel, const Outcome& outcome) {

@@ -55,10 +55,12 @@ PanelHome::PanelHome() {
 }
 
 void PanelHome::Reset(bool with_panel_files) const {
+  const Snapshot& wanted = with_panel_files ? whole_ : around_;
+  if (Take() == wanted) return;
   for (const auto& entry : fs::directory_iterator(home_.Path())) {
     fs::remove_all(entry.path());
   }
-  Write(home_.Path(), with_panel_files ? whole_ : around_);
+  Write(home_.Path(), wanted);
 }
 
 Snapshot PanelHome::Take() const {
