@@ -100,7 +100,9 @@ DirectoryWalk::DirectoryWalk(Links links) : links_(links) {}
 
 DirectoryWalk::~DirectoryWalk() = default;
 
-void DirectoryWalk::Walk(const char* path, const Subdirectory& top) {
+void DirectoryWalk::Walk(const Start& start, const char* path,
+                         const Subdirectory& top) {
+  start_ = start;
   if (!Push(path, top)) return LoseDirectory();
   while (top_) EnterNextSubdirectory();
 }
@@ -119,7 +121,8 @@ bool DirectoryWalk::Push(const char* name, const Subdirectory& subdirectory) {
 }
 
 FileDescriptor DirectoryWalk::OpenBelowTop(const char* name) {
-  const int parent = top_ ? top_->directory.Get() : AT_FDCWD;
+  const int parent = top_ ? top_->directory.Get() : start_.parent;
+  if (!top_) name = start_.name;
   FileDescriptor directory = Open(parent, name);
   while (!directory.IsOpen() && errno == EMFILE && CloseFarthest()) {
     directory = Open(parent, name);
@@ -145,8 +148,8 @@ void DirectoryWalk::Pop() {
   top_ = done->parent;
   (top_ ? top_->child : first_) = nullptr;
   if (parent_is_open) {
-    LeaveDirectory(top_ ? top_->directory.Get() : AT_FDCWD, done->name,
-                   done->subdirectory);
+    LeaveDirectory(top_ ? top_->directory.Get() : start_.parent,
+                   top_ ? done->name : start_.name, done->subdirectory);
   } else {
     // Only a level that has a parent can lose it.
     top_->waiting.DropAll();  // NOLINT(clang-analyzer-core.CallAndMessage)
@@ -212,7 +215,7 @@ bool DirectoryWalk::OpenParentOfTop() {
 }
 
 FileDescriptor DirectoryWalk::OpenFromPath(const Level& target) const {
-  FileDescriptor directory = Open(AT_FDCWD, first_->name);
+  FileDescriptor directory = Open(start_.parent, start_.name);
   for (const Level* level = first_; level != &target && directory.IsOpen();
        level = level->child) {
     directory = Open(directory.Get(), level->child->name);

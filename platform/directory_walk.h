@@ -2,6 +2,7 @@
 #pragma once
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <cstddef>
@@ -44,7 +45,16 @@ class DirectoryWalk {
 
   // Walks the tree at `path`, whose last component is entered like a link
   // when it is one.
-  void Walk(const char* path, const Subdirectory& top);
+  void Walk(const char* path, const Subdirectory& top) {
+    Walk({AT_FDCWD, path}, path, top);
+  }
+  // Where a walk starts: `name` as for openat(2).
+  struct Start {
+    int parent;
+    const char* name;
+  };
+  // The same, but comes to the tree by `start`; PathOf begins with `path`.
+  void Walk(const Start& start, const char* path, const Subdirectory& top);
 
   // An entry of the directory open at `directory`; `type` is one of the DT_
   // constants of readdir(3), DT_UNKNOWN among them. True when it is a
@@ -83,6 +93,7 @@ class DirectoryWalk {
   [[nodiscard]] FileDescriptor Open(int parent, const char* name) const;
 
   const Links links_;
+  Start start_ = {AT_FDCWD, nullptr};
   // The levels from the start of the walk to where it is.
   Level* first_ = nullptr;
   Level* top_ = nullptr;

@@ -15,8 +15,10 @@ class FileManager {
   virtual ~FileManager() = default;
 
   // Removes a file, or a directory with everything in it. Symbolic links are
-  // removed as links and never followed. True also when nothing is there, and
-  // for the empty path. Goes on after a failure and returns false at the end.
+  // removed as links and never followed, nor is one on the way to a directory
+  // from the user settings base directory: the result is then false. True also
+  // when nothing is there, and for the empty path. Goes on after a failure and
+  // returns false at the end.
   virtual bool RemoveFileAtPath(const SimpleString& path) = 0;
 
   // Removes the files under `path` whose age in seconds lies strictly between

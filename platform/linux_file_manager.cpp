@@ -103,13 +103,10 @@ std::uint64_t LinuxFileManager::SizeOfFileAtPath(
 
 bool LinuxFileManager::RemoveFilesRecursively(const SimpleString& path,
                                               FilePredicate* predicate) {
-  std::unique_ptr<char[]> name(
-      path.HasText() ? SimpleString::CopyString(path.c_str()) : nullptr);
-  if (!name) return false;
-  // For a slash at the end of it a link would be followed.
-  std::size_t size = std::strlen(name.get());
-  while (size > 1 && name[size - 1] == '/') name[--size] = '\0';
-  return size == 0 || TreeRemoval(predicate).Remove(name.get());
+  if (!path.HasText()) return false;
+  // What lies below is of others' making, the links included.
+  return path.IsEmpty() ||
+         TreeRemoval(predicate).Remove(path, GetUserSettingsBaseDirectory());
 }
 
 bool LinuxFileManager::RemoveFileAtPath(const SimpleString& path) {

@@ -3,8 +3,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+using SASM::SimpleString;
 
 namespace {
 
@@ -12,15 +19,53 @@ constexpr char kStat[] = "RemoveFilesRecursively: stat";
 constexpr char kUnlinkDirectory[] = "RemoveFilesRecursively: unlink dir";
 constexpr char kUnlinkFile[] = "RemoveFilesRecursively: unlink file";
 
+// Opens the directory `way` below `directory`, following no link from there.
+FileDescriptor OpenBelow(const char* directory, std::string_view way) {
+  FileDescriptor reached(open(directory, O_PATH | O_DIRECTORY | O_CLOEXEC));
+  char name[NAME_MAX + 1];
+  while (reached.IsOpen() && !way.empty()) {
+    const std::size_t size = std::min(way.find('/'), way.size());
+    if (size > NAME_MAX) return FileDescriptor();
+    name[way.copy(name, size)] = '\0';
+    way.remove_prefix(std::min(size + 1, way.size()));
+    if (size == 0) continue;
+    reached = FileDescriptor(openat(
+        reached.Get(), name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  }
+  return reached;
+}
+
 }  // namespace
 
 TreeRemoval::TreeRemoval(LinuxFileManager::FilePredicate* predicate)
     : DirectoryWalk(Links::kRefuse), predicate_(predicate) {}
 
-bool TreeRemoval::Remove(const char* path) {
+bool TreeRemoval::Remove(const SimpleString& path,
+                         const SimpleString& trusted) {
+  const std::unique_ptr<char[]> name(SimpleString::CopyString(path.c_str()));
+  if (!name) return false;
+  // Behind a link a "/" stands for what the link leads to.
+  for (char* end = name.get() + std::strlen(name.get()) - 1;
+       end > name.get() && *end == '/'; --end) {
+    *end = '\0';
+  }
   Subdirectory top;
-  if (VisitEntry(AT_FDCWD, path, DT_UNKNOWN, &top)) Walk(path, top);
+  if (VisitEntry(AT_FDCWD, name.get(), DT_UNKNOWN, &top)) {
+    RemoveTree(name.get(), trusted.c_str());
+  }
   return succeeded_;
+}
+
+void TreeRemoval::RemoveTree(char* path, const char* trusted) {
+  const std::size_t trusted_size = trusted ? std::strlen(trusted) : 0;
+  if (trusted_size == 0 || std::strncmp(path, trusted, trusted_size) != 0 ||
+      path[trusted_size] != '/') {
+    return Walk(path, {});
+  }
+  char* name = std::strrchr(path, '/') + 1;
+  FileDescriptor parent = OpenBelow(trusted, {path + trusted_size, name});
+  if (!parent.IsOpen()) return Fail(kStat);
+  Walk({parent.Get(), name}, path, {});
 }
 
 bool TreeRemoval::VisitEntry(int directory, const char* name,
@@ -41,7 +86,7 @@ bool TreeRemoval::VisitEntry(int directory, const char* name,
 }
 
 bool TreeRemoval::PredicateTakes(const char* name, struct stat& info) {
-  const SASM::SimpleString path = PathOf(name);
+  const SimpleString path = PathOf(name);
   if (path.HasText()) return predicate_->test(path.c_str(), info);
   errno = ENOMEM;
   Fail(kStat);

@@ -1,7 +1,6 @@
 // Removal of site data, and sizes.
 #include <memory>
 
-#include "platform/link_check.h"
 #include "store/settings_manager.h"
 
 namespace SASM {
@@ -9,9 +8,7 @@ namespace SASM {
 bool SettingsManager::DeleteDomainStorage(const SimpleString& domain) {
   if (!StaysInside(domain)) return false;
   if (!mLayout.IsOnDisk()) return true;
-  const SimpleString path = mLayout.LocalStorageOf(domain);
-  return !LeadsThroughLink(mLayout.LocalStorageRoot(), path) &&
-         mFileManager->RemoveFileAtPath(path);
+  return mFileManager->RemoveFileAtPath(mLayout.LocalStorageOf(domain));
 }
 
 bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,
