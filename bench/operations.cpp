@@ -1,0 +1,141 @@
+// Does one operation some number of times between two calls of getppid, so
+// that strace can count its system calls (see bench/counts), and prints the
+// number of its allocations.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+
+#include "bench/harness.h"
+#include "bench/panel_window.h"
+#include "bench/private_home.h"
+#include "model/permission_setting.h"
+#include "platform/linux_file_manager.h"
+
+namespace {
+
+std::size_t g_allocations = 0;
+
+}  // namespace
+
+// In front of the C library's own.
+extern "C" {
+void* __libc_malloc(std::size_t size);                     // NOLINT
+void* __libc_calloc(std::size_t count, std::size_t size);  // NOLINT
+void* __libc_realloc(void* old, std::size_t size);         // NOLINT
+
+__attribute__((visibility("default"))) void* malloc(std::size_t size) {
+  ++g_allocations;
+  return __libc_malloc(size);
+}
+__attribute__((visibility("default"))) void* calloc(std::size_t count,
+                                                    std::size_t size) {
+  ++g_allocations;
+  return __libc_calloc(count, size);
+}
+__attribute__((visibility("default"))) void* realloc(void* old,
+                                                     std::size_t size) {
+  ++g_allocations;
+  return __libc_realloc(old, size);
+}
+}
+
+namespace {
+
+constexpr std::size_t kSites = 1000;
+
+struct Operation {
+  const char* name;
+  std::size_t sites;
+  void (*prepare)(PrivateHome* home, std::size_t times);
+  void (*run)(const PrivateHome& home, std::size_t times);
+};
+
+GnomeTCCapplet* g_panel = nullptr;
+std::string g_tree;
+
+void NoPreparation(PrivateHome*, std::size_t) {}
+
+void StartStore(PrivateHome*, std::size_t) { (void)SettingBase("", ""); }
+
+void ReadSites(const PrivateHome& home, std::size_t times) {
+  for (std::size_t i = 0; i < times; ++i) {
+    SettingBase::mSettingsManager->EnsureSettingsAreLoadedForDomain(
+        home.Sites()[i].c_str());
+  }
+}
+
+void LoadSite(PrivateHome* home, std::size_t) {
+  StartStore(nullptr, 0);
+  ReadSites(*home, 1);
+}
+
+void ChangeSite(const PrivateHome& home, std::size_t times) {
+  for (std::size_t i = 0; i < times; ++i) {
+    PermissionSetting(PermissionSetting::kCameraAndMic, home.Sites()[0].c_str())
+        .setState(PermissionSetting::kPermissionStateAlwaysAllow);
+  }
+}
+
+void StartWindow(PrivateHome*, std::size_t) {
+  int argc = 0;
+  char** argv = nullptr;
+  g_panel = StartWithoutStore(&argc, &argv);
+  OpenStore(g_panel);
+  fill_site_list(g_panel, kCameraAndMicMode);
+  fill_site_list(g_panel, kStorageMode);
+}
+
+template <SitePermissionMode mode>
+void Refill(const PrivateHome&, std::size_t times) {
+  for (std::size_t i = 0; i < times; ++i) fill_site_list(g_panel, mode);
+}
+
+void MakeTree(PrivateHome* home, std::size_t files) {
+  g_tree = *home / "tree";
+  Check(mkdir(g_tree.c_str(), 0700) == 0, "mkdir");
+  for (std::size_t i = 0; i < files; ++i) {
+    WriteFile(g_tree + "/" + std::to_string(i), "");
+  }
+}
+
+void RemoveMadeTree(const PrivateHome&, std::size_t) {
+  LinuxFileManager files;
+  Check(files.RemoveFileAtPath(g_tree.c_str()), "remove");
+}
+
+void OpenStores(const PrivateHome&, std::size_t times) {
+  for (std::size_t i = 0; i < times; ++i) {
+    LinuxFileManager files;
+    const SASM::SettingsManager manager(&files);
+  }
+}
+
+constexpr Operation kOperations[] = {
+    {"start", 0, NoPreparation, OpenStores},
+    {"read", kSites, StartStore, ReadSites},
+    {"change", 1, LoadSite, ChangeSite},
+    {"refill", kSites, StartWindow, Refill<kCameraAndMicMode>},
+    {"refill-with-sizes", kSites, StartWindow, Refill<kStorageMode>},
+    {"remove", 1, MakeTree, RemoveMadeTree},
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Check(argc == 3, "Usage: bench_operations OPERATION TIMES");
+  const std::size_t times = std::stoul(argv[2]);
+  PrivateHome home;
+  for (const Operation& operation : kOperations) {
+    if (std::strcmp(operation.name, argv[1]) != 0) continue;
+    home.MakeSites(operation.sites, true);
+    operation.prepare(&home, times);
+    (void)getppid();
+    const std::size_t before = g_allocations;
+    operation.run(home, times);
+    const std::size_t after = g_allocations;
+    (void)getppid();
+    std::printf("%zu\n", after - before);
+  }
+}
