@@ -7,6 +7,7 @@
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/start_up.h"
+#include "app/ui_definition.h"
 #include "bench/harness.h"
 #include "store/setting_keys.h"
 
@@ -16,12 +17,15 @@ GnomeTCCapplet* StartWithoutStore(int* argc, char*** argv) {
   panel->updating = true;
   register_permission_icons();
   panel->builder = gtk_builder_new();
-  Check(load_ui(panel), "load_ui");
+  Check(gtk_builder_add_from_string(
+            panel->builder, gnome_tessary_corvane_properties_ui,
+            gnome_tessary_corvane_properties_ui_len, nullptr),
+        "gtk_builder_add_from_string");
+  panel->window = get_widget(panel->builder, "tessary_corvane_dialog");
   set_window_icons();
-  connect_signals(panel);
+  gtk_builder_connect_signals(panel->builder, panel);
   prepare_list_sorting(panel);
   prepare_lists(panel);
-  set_links(panel);
   localize_widgets(panel);
   set_accessible_names(panel);
   gtk_widget_show(panel->window);
