@@ -6,8 +6,6 @@
 
 namespace SASM {
 
-SettingDataItem::SettingDataItem() : type(kSettingsDataTypeDouble), value{0} {}
-
 SettingDataItem::SettingDataItem(const SimpleString& name,
                                  _SettingsDataType type, const void* data)
     : name(name), type(type), value{0} {
@@ -17,12 +15,6 @@ SettingDataItem::SettingDataItem(const SimpleString& name,
 SettingDataItem::SettingDataItem(const SettingDataItem& other)
     : name(other.name), type(other.type), value{0} {
   SetData(type, other.Data());
-}
-
-SettingDataItem::SettingDataItem(SettingDataItem&& other) noexcept
-    : name(std::move(other.name)), type(other.type), value(other.value) {
-  other.type = kSettingsDataTypeDouble;
-  other.value.number = 0;
 }
 
 SettingDataItem::SettingDataItem(SimpleString&& name, double number)
@@ -43,21 +35,13 @@ SettingDataItem::SettingDataItem(SimpleString&& name, SDIVector* array)
   value.array = array;
 }
 
-SettingDataItem::~SettingDataItem() { ReleaseValue(); }
-
 SettingDataItem SettingDataItem::operator=(  // NOLINT
     const SettingDataItem& other) {
   if (this != &other) *this = SettingDataItem(other);
   return *this;
 }
 
-void SettingDataItem::operator=(SettingDataItem&& other) noexcept {  // NOLINT
-  std::swap(name, other.name);
-  std::swap(type, other.type);
-  std::swap(value, other.value);
-}
-
-void SettingDataItem::ReleaseValue() {
+void SettingDataItem::DeleteOwned() {
   if (type == kSettingsDataTypeString) delete value.string;
   if (type == kSettingsDataTypeArray) delete value.array;
 }

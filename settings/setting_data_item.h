@@ -1,6 +1,8 @@
 // One setting value, and lists of them.
 #pragma once
 
+#include <utility>
+
 #include "settings/pointer_vector.h"
 #include "settings/simple_string.h"
 
@@ -25,14 +27,19 @@ enum _SettingsDataType : int {  // NOLINT(bugprone-reserved-identifier)
 class SettingDataItem {
  public:
   // An empty name and the number 0.
-  SettingDataItem();
+  SettingDataItem() : type(kSettingsDataTypeDouble), value{0} {}
   // `data` points to what SetData reads for `type`; it is copied.
   SettingDataItem(const SimpleString& name, _SettingsDataType type,
                   const void* data);
   SettingDataItem(const SettingDataItem& other);
   // Leaves `other` the number 0 without a name.
-  SettingDataItem(SettingDataItem&& other) noexcept;
-  ~SettingDataItem();
+  SettingDataItem(SettingDataItem&& other) noexcept
+      : name(std::move(other.name)),
+        type(std::exchange(other.type, kSettingsDataTypeDouble)),
+        value(other.value) {
+    other.value.number = 0;
+  }
+  ~SettingDataItem() { ReleaseValue(); }
 
   SettingDataItem(SimpleString&& name, double number);
   SettingDataItem(SimpleString&& name, bool boolean);
@@ -42,7 +49,11 @@ class SettingDataItem {
 
   // The result is a copy of the item after the assignment, not a reference.
   SettingDataItem operator=(const SettingDataItem& other);  // NOLINT
-  void operator=(SettingDataItem&& other) noexcept;         // NOLINT
+  void operator=(SettingDataItem&& other) noexcept {        // NOLINT
+    std::swap(name, other.name);
+    std::swap(type, other.type);
+    std::swap(value, other.value);
+  }
 
   // Replaces the value by a copy of the one at `data`: a double, a bool, a
   // SimpleString or an SDIVector as `type` says; for any other type code
@@ -63,7 +74,10 @@ class SettingDataItem {
   } value;
 
  private:
-  void ReleaseValue();
+  void ReleaseValue() {
+    if (type > kSettingsDataTypeBool) DeleteOwned();
+  }
+  void DeleteOwned();
   [[nodiscard]] const void* Data() const;
 };
 

@@ -13,13 +13,6 @@ namespace {
 
 constexpr unsigned long kSmallestCapacity = 1024;
 
-template <typename Number>
-void AppendBigEndian(SettingsAggregator* aggregator, Number number) {
-  unsigned char bytes[sizeof(Number)];
-  StoreBigEndian(number, bytes);
-  aggregator->AppendData(bytes, sizeof bytes);
-}
-
 }  // namespace
 
 SettingsAggregator::SettingsAggregator(unsigned long initial_size)
@@ -30,16 +23,26 @@ SettingsAggregator::SettingsAggregator(unsigned long initial_size)
 
 SettingsAggregator::~SettingsAggregator() { delete[] buffer_; }
 
+template <typename Number>
+void SettingsAggregator::AppendBigEndian(Number number) {
+  unsigned char* room = Extend(sizeof number);
+  if (room) StoreBigEndian(number, room);
+}
+
 void SettingsAggregator::AppendData(const unsigned char* data,
                                     unsigned long count) {
+  unsigned char* room = Extend(count);
+  if (room) std::memcpy(room, data, count);
+}
+
+bool SettingsAggregator::MakeRoom(unsigned long count) {
   while (count >= capacity_ - size_) {
     if (!Grow()) {
       failed_ = true;
-      return;
+      return false;
     }
   }
-  std::memcpy(buffer_ + size_, data, count);
-  size_ += count;
+  return true;
 }
 
 bool SettingsAggregator::Grow() {
@@ -54,18 +57,20 @@ bool SettingsAggregator::Grow() {
   return true;
 }
 
-void SettingsAggregator::WriteU8(unsigned char value) { AppendData(&value, 1); }
+void SettingsAggregator::WriteU8(unsigned char value) {
+  AppendBigEndian(value);
+}
 
 void SettingsAggregator::WriteU16(unsigned short value) {
-  AppendBigEndian(this, value);
+  AppendBigEndian(value);
 }
 
 void SettingsAggregator::WriteU32(unsigned int value) {
-  AppendBigEndian(this, value);
+  AppendBigEndian(value);
 }
 
 void SettingsAggregator::WriteDouble(double value) {
-  AppendBigEndian(this, std::bit_cast<std::uint64_t>(value));
+  AppendBigEndian(std::bit_cast<std::uint64_t>(value));
 }
 
 void SettingsAggregator::WriteSimpleStringAsPString(
@@ -73,9 +78,10 @@ void SettingsAggregator::WriteSimpleStringAsPString(
   if (!text.HasText()) failed_ = true;
   const char* bytes = text.HasText() ? text.c_str() : "";
   const std::size_t size = strnlen(bytes, kLongestText);
-  WriteU16(static_cast<unsigned short>(size));
-  AppendData(static_cast<const unsigned char*>(static_cast<const void*>(bytes)),
-             size);
+  unsigned char* room = Extend(sizeof(unsigned short) + size);
+  if (!room) return;
+  StoreBigEndian(static_cast<unsigned short>(size), room);
+  std::memcpy(room + sizeof(unsigned short), bytes, size);
 }
 
 void SettingsAggregator::WriteSettingsDataType(SASM::_SettingsDataType type) {

@@ -38,7 +38,17 @@ class SettingsAggregator {
   [[nodiscard]] bool Failed() const { return failed_; }
 
  private:
+  // Room for `count` more bytes, taken as appended; null when there is none.
+  unsigned char* Extend(unsigned long count) {
+    if (count >= capacity_ - size_ && !MakeRoom(count)) return nullptr;
+    unsigned char* room = buffer_ + size_;
+    size_ += count;
+    return room;
+  }
+  bool MakeRoom(unsigned long count);
   bool Grow();
+  template <typename Number>
+  void AppendBigEndian(Number number);
 
   unsigned char* buffer_;
   std::uint64_t capacity_;

@@ -2,16 +2,16 @@
 
 #include <cstring>
 #include <new>
-#include <utility>
 
 namespace SASM {
 namespace {
 
-// Room for `size` bytes and a zero, the zero set; null when memory is short.
+// A copy of `size` bytes, or for null room for them, and a zero behind; null
+// when memory is short.
 char* NewText(const void* bytes, std::size_t size) {
   char* text = new (std::nothrow) char[size + 1];
   if (!text) return nullptr;
-  if (size) std::memcpy(text, bytes, size);
+  if (bytes) std::memcpy(text, bytes, size);
   text[size] = '\0';
   return text;
 }
@@ -22,23 +22,31 @@ char* SimpleString::CopyString(const char* text) {
   return NewText(text, text ? std::strlen(text) : 0);
 }
 
-SimpleString::SimpleString() : text_(CopyString(nullptr)) {}
-
 SimpleString::SimpleString(const char* text) : text_(CopyString(text)) {}
 
-SimpleString::SimpleString(const SimpleString& other)
-    : text_(other.text_ ? CopyString(other.text_) : nullptr) {}
-
-SimpleString::SimpleString(SimpleString&& other) noexcept
-    : text_(std::exchange(other.text_, nullptr)) {}
-
-SimpleString::~SimpleString() { delete[] text_; }
+SimpleString::SimpleString(const SimpleString& other) : text_(other.text_) {
+  if (text_ && text_ != EmptyText()) text_ = CopyString(other.text_);
+}
 
 SimpleString SimpleString::FromBytes(const unsigned char* bytes,
                                      std::size_t size) {
   const void* zero = size ? std::memchr(bytes, 0, size) : nullptr;
   if (zero) size = static_cast<const unsigned char*>(zero) - bytes;
-  return SimpleString(Adopted{NewText(bytes, size)});
+  return size ? SimpleString(Adopted{NewText(bytes, size)}) : SimpleString();
+}
+
+SimpleString SimpleString::Joined(std::initializer_list<const char*> parts) {
+  std::size_t size = 0;
+  for (const char* part : parts) {
+    if (!part) return WithoutText();
+    size += std::strlen(part);
+  }
+  char* joined = NewText(nullptr, size);
+  char* end = joined;
+  for (const char* part : parts) {
+    if (joined) end = stpcpy(end, part);
+  }
+  return SimpleString(Adopted{joined});
 }
 
 bool SimpleString::AppendString(const char* text) {
@@ -51,7 +59,7 @@ bool SimpleString::AppendString(const char* text) {
     std::memcpy(joined, text_, old_size);
     std::memcpy(joined + old_size, text, added_size + 1);
   }
-  delete[] text_;
+  Free();
   text_ = joined;
   return joined != nullptr;
 }
@@ -59,10 +67,6 @@ bool SimpleString::AppendString(const char* text) {
 SimpleString SimpleString::operator=(const SimpleString& other) {  // NOLINT
   if (this != &other) *this = SimpleString(other);
   return *this;
-}
-
-void SimpleString::operator=(SimpleString&& other) noexcept {  // NOLINT
-  std::swap(text_, other.text_);
 }
 
 bool operator==(const SimpleString& a, const SimpleString& b) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
+#include <utility>
 
 namespace SASM {
 
@@ -13,20 +15,24 @@ namespace SASM {
 // and the string equals no other. Such a string is never a usable path or key.
 class SimpleString {
  public:
-  SimpleString();
+  SimpleString() : text_(EmptyText()) {}
   // Null gives the empty text. Implicit: a literal is good wherever a string
   // is asked for.
   SimpleString(const char* text);  // NOLINT(google-explicit-constructor)
   SimpleString(const SimpleString& other);
   // Leaves `other` without a text, fit only to be assigned to or destroyed.
-  SimpleString(SimpleString&& other) noexcept;
-  ~SimpleString();
+  SimpleString(SimpleString&& other) noexcept
+      : text_(std::exchange(other.text_, nullptr)) {}
+  ~SimpleString() { Free(); }
 
   // As when memory could not be had.
   static SimpleString WithoutText() { return SimpleString(Adopted{nullptr}); }
 
   // The first `size` bytes, cut before the first zero byte among them.
   static SimpleString FromBytes(const unsigned char* bytes, std::size_t size);
+
+  // The parts one after another; without a text when one of them is null.
+  static SimpleString Joined(std::initializer_list<const char*> parts);
 
   // A new array with a copy of `text` and its zero, of the empty text for
   // null. The caller frees it with delete[]. Null when memory is short.
@@ -39,7 +45,9 @@ class SimpleString {
 
   // The result is a copy of the string after the assignment, not a reference.
   SimpleString operator=(const SimpleString& other);  // NOLINT
-  void operator=(SimpleString&& other) noexcept;      // NOLINT
+  void operator=(SimpleString&& other) noexcept {     // NOLINT
+    std::swap(text_, other.text_);
+  }
 
   // Borrowed; valid until the string changes. Null without a text.
   [[nodiscard]] const char* c_str() const { return text_; }
@@ -52,6 +60,13 @@ class SimpleString {
   };
   explicit SimpleString(Adopted adopted) : text_(adopted.text) {}
 
+  // Shared by all strings that were never given a text, and never written to.
+  static char* EmptyText() { return const_cast<char*>(&kEmptyText); }
+  void Free() {
+    if (text_ != EmptyText()) delete[] text_;
+  }
+
+  static constexpr char kEmptyText = '\0';
   char* text_;
 };
 
