@@ -78,9 +78,8 @@ const SimpleString& LinuxFileManager::GetDRMLicenseDataDirectory() const {
 
 bool LinuxFileManager::CreateDirectoryAtPath(const SimpleString& path,
                                              const SimpleString& name) {
-  SimpleString chain = path;
-  chain.AppendString(kPathSeparator);
-  chain.AppendString(name.c_str());
+  SimpleString chain =
+      SimpleString::Joined({path.c_str(), kPathSeparator, name.c_str()});
   if (!chain.HasText() || path.IsEmpty()) return false;
   // Most of the time everything is there, which one call tells.
   if (access(chain.c_str(), F_OK) == 0) return true;

@@ -1,5 +1,6 @@
 #include "store/settings_manager.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <utility>
@@ -28,9 +29,7 @@ const SimpleString& DomainsKey() {
 }  // namespace
 
 SettingsManager::SettingsManager(FileManager* file_manager)
-    : mLayout(file_manager),
-      mFileManager(file_manager),
-      mLastUsed(mDomainSettings.end()) {
+    : mLayout(file_manager), mFileManager(file_manager) {
   LoadMasterSettingsFromDisk();
 }
 
@@ -42,10 +41,18 @@ const SimpleString& SettingsManager::MasterDomain() {
 
 SettingsDictionary* SettingsManager::LoadedDictionary(
     const SimpleString& domain) {
-  if (mLastUsed == mDomainSettings.end() || !(mLastUsed->key == domain)) {
-    mLastUsed = mDomainSettings.find(domain);
-  }
-  return mLastUsed == mDomainSettings.end() ? nullptr : mLastUsed->value;
+  const unsigned int hash = hashSS(domain);
+  const DictionaryMap::Node*& last =
+      mLastUsed[hash % DictionaryMap::kBucketCount];
+  const auto is_wanted = [&](const DictionaryMap::Node* node) {
+    return node && node->hash == hash && node->key == domain;
+  };
+  if (is_wanted(last)) return last->value;
+  // A bucket holds the newest first: what was loaded next stands before.
+  if (last && is_wanted(last->prev)) return (last = last->prev)->value;
+  const auto found = mDomainSettings.find(domain);
+  if (found == mDomainSettings.end()) return nullptr;
+  return (last = &*found)->value;
 }
 
 SettingsDictionary* SettingsManager::EnsureSettingsAreLoadedForDomain(
@@ -83,7 +90,7 @@ SettingsDictionary* SettingsManager::AddDictionary(
 void SettingsManager::DeleteAllDictionaries() {
   for (auto& entry : mDomainSettings) delete entry.value;
   mDomainSettings.clear();
-  mLastUsed = mDomainSettings.end();
+  std::ranges::fill(mLastUsed, nullptr);
 }
 
 SettingsDictionary* SettingsManager::GetNewSettingsDataFromFile(

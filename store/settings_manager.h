@@ -156,8 +156,9 @@ class SettingsManager {
   StoreLayout mLayout;
   FileManager* mFileManager;
   DictionaryMap mDomainSettings;
-  // The dictionary asked for last: one row of a list asks several times.
-  DictionaryMap::iterator mLastUsed;
+  // Of each bucket the dictionary asked for last: one row of a list asks
+  // several times, and lists ask in the order in which they were loaded.
+  const DictionaryMap::Node* mLastUsed[DictionaryMap::kBucketCount] = {};
 };
 
 }  // namespace SASM

@@ -28,18 +28,13 @@ bool HasDotComponent(const char* path) {
   return false;
 }
 
-// Without a text when one of the two is.
-void Append(SimpleString* text, const SimpleString& tail) {
-  if (!tail.HasText()) *text = SimpleString::WithoutText();
-  text->AppendString(tail.c_str());
-}
-
 }  // namespace
 
 StoreLayout::StoreLayout(const FileManager* file_manager)
     : mFileManager(file_manager),
       mBaseDirectory(file_manager->GetUserSettingsBaseDirectory()) {
   if (!IsOnDisk()) return;
+  mSettingsDirectory = Join(mBaseDirectory, kSettingsPath);
   mSharedObjectsDirectory = LocalStorageRoot();
   const std::unique_ptr<StringVector> names(
       mFileManager->CreateNewListOfDirectoryContents(mSharedObjectsDirectory));
@@ -51,26 +46,24 @@ StoreLayout::StoreLayout(const FileManager* file_manager)
   }
 }
 
+const char* StoreLayout::Separator() const {
+  return mFileManager->GetPathSeparator().c_str();
+}
+
 SimpleString StoreLayout::Join(const SimpleString& directory,
                                const SimpleString& name) const {
   // Below no directory there is no path; "/name" would be one.
   if (directory.IsEmpty()) return SimpleString::WithoutText();
-  SimpleString path = directory;
-  Append(&path, mFileManager->GetPathSeparator());
-  Append(&path, name);
-  return path;
-}
-
-SimpleString StoreLayout::SettingsDirectory() const {
-  return Join(mBaseDirectory, kSettingsPath);
+  return SimpleString::Joined({directory.c_str(), Separator(), name.c_str()});
 }
 
 SimpleString StoreLayout::DirectoryOf(const SimpleString& domain) const {
-  if (domain == MasterDomainName()) return SettingsDirectory();
-  if (!HasPlace(domain)) return SimpleString::WithoutText();
-  SimpleString name = kDomainDirectoryPrefix;
-  Append(&name, domain);
-  return Join(SettingsDirectory(), name);
+  if (domain == MasterDomainName()) return mSettingsDirectory;
+  if (mSettingsDirectory.IsEmpty() || !HasPlace(domain)) {
+    return SimpleString::WithoutText();
+  }
+  return SimpleString::Joined({mSettingsDirectory.c_str(), Separator(),
+                               kDomainDirectoryPrefix, domain.c_str()});
 }
 
 SimpleString StoreLayout::SettingsFileOf(const SimpleString& domain) const {
@@ -79,9 +72,7 @@ SimpleString StoreLayout::SettingsFileOf(const SimpleString& domain) const {
 
 SimpleString StoreLayout::DictionaryNameOf(const SimpleString& domain) const {
   if (domain == MasterDomainName()) return kMasterDictionaryName;
-  SimpleString name = domain;
-  name.AppendString(kDomainDictionarySuffix);
-  return name;
+  return SimpleString::Joined({domain.c_str(), kDomainDictionarySuffix});
 }
 
 SimpleString StoreLayout::LocalStorageRoot() const {

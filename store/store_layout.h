@@ -23,7 +23,9 @@ class StoreLayout {
   }
 
   // The directory of the master settings file and of all domain directories.
-  [[nodiscard]] SimpleString SettingsDirectory() const;
+  [[nodiscard]] const SimpleString& SettingsDirectory() const {
+    return mSettingsDirectory;
+  }
   // The directory of a domain's settings file; of the master domain, the
   // settings directory. Without a text where HasPlace is false.
   [[nodiscard]] SimpleString DirectoryOf(const SimpleString& domain) const;
@@ -44,8 +46,11 @@ class StoreLayout {
                                   const SimpleString& name) const;
 
  private:
+  [[nodiscard]] const char* Separator() const;
+
   const FileManager* mFileManager;
   SimpleString mBaseDirectory;
+  SimpleString mSettingsDirectory;
   SimpleString mSharedObjectsDirectory;
 };
 
