@@ -57,10 +57,6 @@ bool SettingsAggregator::Grow() {
   return true;
 }
 
-void SettingsAggregator::WriteU8(unsigned char value) {
-  AppendBigEndian(value);
-}
-
 void SettingsAggregator::WriteU16(unsigned short value) {
   AppendBigEndian(value);
 }
@@ -82,10 +78,6 @@ void SettingsAggregator::WriteSimpleStringAsPString(
   if (!room) return;
   StoreBigEndian(static_cast<unsigned short>(size), room);
   std::memcpy(room + sizeof(unsigned short), bytes, size);
-}
-
-void SettingsAggregator::WriteSettingsDataType(SASM::_SettingsDataType type) {
-  WriteU8(static_cast<unsigned char>(type));
 }
 
 unsigned long SettingsAggregator::GetData(unsigned long count,

@@ -20,14 +20,18 @@ class SettingsAggregator {
   // Doubles the capacity as long as the bytes would fill the buffer.
   void AppendData(const unsigned char* data, unsigned long count);
 
-  void WriteU8(unsigned char value);
+  void WriteU8(unsigned char value) {
+    if (unsigned char* room = Extend(sizeof value)) *room = value;
+  }
   void WriteU16(unsigned short value);
   void WriteU32(unsigned int value);
   void WriteDouble(double value);
   // A text longer than 65535 bytes is cut there. A string without a text is
   // lost like an append without memory.
   void WriteSimpleStringAsPString(const SASM::SimpleString& text);
-  void WriteSettingsDataType(SASM::_SettingsDataType type);
+  void WriteSettingsDataType(SASM::_SettingsDataType type) {
+    WriteU8(static_cast<unsigned char>(type));
+  }
 
   // Copies the first `count` bytes of the buffer, but no more than its
   // capacity, to `dest`; returns the number copied.

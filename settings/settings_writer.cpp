@@ -1,11 +1,9 @@
 #include "settings/settings_writer.h"
 
-#include <memory>
 #include <new>
 
 #include "settings/big_endian.h"
 #include "settings/settings_format.h"
-#include "settings/string_vector.h"
 #include "store/settings_manager.h"
 
 namespace SMImplementation {
@@ -55,15 +53,15 @@ void SettingsWriter::WriteHeaderInfo(const SASM::SimpleString& name) {
 }
 
 void SettingsWriter::WriteSettingsDictionary() {
-  const std::unique_ptr<SASM::StringVector> keys(
-      manager_->GetNewSettingKeys(domain_));
-  failed_ = failed_ || !keys;
-  for (unsigned int i = 0; keys && i < keys->count; ++i) {
-    const auto& key = *static_cast<SASM::SimpleString*>(keys->elements[i]);
-    const SASM::SettingDataItem* item = manager_->GetSetting(key, domain_);
-    if (!item) continue;
-    aggregator_.WriteSimpleStringAsPString(key);
-    WriteItem(*item);
+  const SASM::SettingsDictionary* dictionary =
+      manager_->EnsureSettingsAreLoadedForDomain(domain_);
+  if (!dictionary) {
+    failed_ = true;
+    return;
+  }
+  for (const auto& entry : *dictionary) {
+    aggregator_.WriteSimpleStringAsPString(entry.key);
+    WriteItem(entry.value);
     aggregator_.WriteU8(kEntryTerminator);
   }
 }
