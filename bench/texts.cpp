@@ -33,7 +33,7 @@ class FixedLanguage : public LocalizedStringManager {
   int language = 0;
 };
 
-const char* Bisect(int id, unsigned int language) {
+[[gnu::noinline]] const char* Bisect(int id, unsigned int language) {
   int low = 0;
   int high = kTextCount - 1;
   while (low <= high) {
