@@ -38,8 +38,17 @@ void AddLocation(GnomeTCCapplet* panel, const char* path) {
   panel->trusted_paths->setVectorValue(locations);
 }
 
+// A location is trusted, not used: the toolkit is not to note it among the
+// user's recent files, and not to complain where it cannot write.
+void KeepOutOfRecentFiles() {
+  auto* recent_files = GTK_RECENT_MANAGER_CLASS(
+      g_type_class_ref(GTK_TYPE_RECENT_MANAGER));  // kept with the program
+  recent_files->changed = nullptr;
+}
+
 void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
                     int title_id, const char* title_fallback) {
+  KeepOutOfRecentFiles();
   GtkWidget* parent = get_widget(panel->builder, "compat_settings_dialog");
   GtkWidget* chooser = gtk_file_chooser_dialog_new(
       text_or(panel, title_id, title_fallback), GTK_WINDOW(parent), action,
