@@ -1,0 +1,119 @@
+#include <gmock/gmock.h>
+
+#include "app/notebook_pages.h"
+#include "app/widget_helpers.h"
+#include "store/setting_keys.h"
+#include "tests/app/panel_test.h"
+
+using testing::ElementsAre;
+
+class LoadTest : public PanelTest {
+ protected:
+  // As on the screen: draws the rows, and lets the toolkit look at each name.
+  void ShowList(const SitePermission& list) {
+    gtk_widget_show(Widget(list.dialog));
+    Settle();
+    GtkTreeView* view = get_tree_view(panel_->builder, list.tree_view);
+    const int rows =
+        gtk_tree_model_iter_n_children(gtk_tree_view_get_model(view), nullptr);
+    if (rows == 0) return;
+    GtkTreePath* last = gtk_tree_path_new_from_indices(rows - 1, -1);
+    gtk_tree_view_scroll_to_cell(view, last, nullptr, FALSE, 0, 0);
+    gtk_tree_path_free(last);
+    Settle();
+  }
+
+  // What the name's cell shows.
+  std::string ShownName(const char* tree_view, const char* column, int row) {
+    GtkTreeView* view = get_tree_view(panel_->builder, tree_view);
+    GtkTreeModel* model = gtk_tree_view_get_model(view);
+    GtkTreeIter iter;
+    EXPECT_TRUE(gtk_tree_model_iter_nth_child(model, &iter, nullptr, row));
+    GtkTreeViewColumn* title = get_column(panel_->builder, column);
+    gtk_tree_view_column_cell_set_cell_data(title, model, &iter, FALSE, FALSE);
+    GList* renderers = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(title));
+    char* text = nullptr;
+    g_object_get(renderers->data, "text", &text, nullptr);
+    g_list_free(renderers);
+    std::string shown = text;
+    g_free(text);
+    return shown;
+  }
+};
+
+TEST_F(LoadTest, TenThousandSites) {
+  Names sites;
+  for (int i = 0; i < 10000; ++i) {
+    sites.push_back("s" + std::to_string(i) + ".example");
+  }
+  AddSites(sites);
+  Start();
+  const SitePermission& list = kSitePermissions[kStorageMode];
+  ShowList(list);
+  EXPECT_EQ(Column(list.list_store, 0), sites);
+  gtk_tree_view_column_clicked(
+      get_column(panel_->builder, "site_storage_site_column"));
+  ASSERT_EQ(Column(list.list_store, 0)[2], "s10.example");
+  Select(list.tree_view, {0, 2, 9999});
+  ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysAsk);
+  EXPECT_EQ(Stored("s10.example", "klimit"), "0");
+  Select(list.tree_view, {2});
+  Click(list.remove_button);
+  sites.erase(sites.begin() + 10);
+  Names stored;
+  const SASM::SDIVector* domains = panel_->settings->GetDomains();
+  for (unsigned int i = 0; i < domains->count; ++i) {
+    stored.emplace_back(domains->At(i)->name.c_str());
+  }
+  EXPECT_EQ(stored, sites);
+}
+
+// Names that are no text, that look like markup, that read right to left,
+// that fill a line: shown, kept by their own bytes, and removable.
+TEST_F(LoadTest, NamesThatAreHardToShow) {
+  const Names sites = {"caf\xe9.example",
+                       "<b>&amp;</i>",
+                       "a\nb\tc",
+                       "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d",
+                       "%s%n",
+                       std::string(254, 'w')};
+  AddSites(sites);
+  Start();
+  for (const int page : {kPlaybackPage, kPrivacyPage, kStoragePage}) {
+    GoToPage(page);
+    for (const SitePermission& list : kSitePermissions) ShowList(list);
+  }
+  EXPECT_EQ(ShownName("site_storage_treeview", "site_storage_site_column", 0),
+            "caf\xef\xbf\xbd.example");
+  EXPECT_EQ(ShownName("site_storage_treeview", "site_storage_site_column", 1),
+            "<b>&amp;</i>");
+  Select("site_storage_treeview", {0, 1, 2, 3, 4, 5});
+  ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysDeny);
+  for (const std::string& site : sites) EXPECT_EQ(Stored(site, "klimit"), "-1");
+  Select("site_storage_treeview", {0, 1, 3});
+  Click("remove_site_storage_setting_button");
+  EXPECT_EQ(Stored(kMaster, SASM::kDomains),
+            "[" + sites[2] + " " + sites[4] + " " + sites[5] + "]");
+}
+
+// The longest name that a settings file holds; no file can be named so.
+TEST_F(LoadTest, LongestNames) {
+  const std::string longest(65535, 'W');
+  AddLocations({"/a", longest});
+  Start();
+  Click("compat_settings_button");
+  EXPECT_THAT(Column("trusted_locations", 0), ElementsAre("/a", longest));
+  Select("trusted_locations_treeview", {0});
+  Click("remove_trusted_location_button");
+  EXPECT_EQ(Stored(kMaster, SASM::kTrustedPaths), "[" + longest + "]");
+  Select("trusted_locations_treeview", {0});
+  Click("remove_trusted_location_button");
+  EXPECT_EQ(Stored(kMaster, SASM::kTrustedPaths), "[]");
+
+  ShowList(kSitePermissions[kStorageMode]);
+  Click("add_site_storage_setting_button");
+  Type("new_site_entry", longest);
+  Settle();
+  Click("new_site_add_button");
+  EXPECT_EQ(Stored(kMaster, SASM::kDomains), "[]");
+}
