@@ -2,13 +2,6 @@
 
 #include <utility>
 
-#include "store/setting_keys.h"
-
-const PermissionSetting::Keys PermissionSetting::kCameraAndMic = {
-    SASM::kCameraAlways, SASM::kCameraAllow};
-const PermissionSetting::Keys PermissionSetting::kPeerAssistedNetworking = {
-    SASM::kP2PAlways, SASM::kP2PAllow};
-
 PermissionSetting::PermissionSetting(const char* always_key,
                                      const char* allow_key,
                                      SASM::SimpleString domain)
@@ -23,12 +16,6 @@ PermissionSetting::PermissionSetting(const Keys& keys,
 PermissionSetting::_SettingsPermissionState PermissionSetting::getState() {
   const bool always = getBoolValue(always_key_);
   return StateOf(always, always && getBoolValue(allow_key_));
-}
-
-PermissionSetting::_SettingsPermissionState PermissionSetting::StateOf(
-    bool always, bool allow) {
-  if (!always) return kPermissionStateAlwaysAsk;
-  return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
 }
 
 void PermissionSetting::setState(_SettingsPermissionState state) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/setting_base.h"
+#include "store/setting_keys.h"
 
 // `always` says whether the decision is fixed or the user is asked each time;
 // `allow` says what a fixed decision is. Missing ones count as false.
@@ -20,8 +21,10 @@ class PermissionSetting : public SettingBase {
     const char* always;
     const char* allow;
   };
-  static const Keys kCameraAndMic;
-  static const Keys kPeerAssistedNetworking;
+  static constexpr Keys kCameraAndMic = {SASM::kCameraAlways,
+                                         SASM::kCameraAllow};
+  static constexpr Keys kPeerAssistedNetworking = {SASM::kP2PAlways,
+                                                   SASM::kP2PAllow};
 
   PermissionSetting(const char* always_key, const char* allow_key,
                     SASM::SimpleString domain);
@@ -34,7 +37,10 @@ class PermissionSetting : public SettingBase {
 
   // What the two booleans mean.
   [[nodiscard]] static _SettingsPermissionState StateOf(bool always,
-                                                        bool allow);
+                                                        bool allow) {
+    if (!always) return kPermissionStateAlwaysAsk;
+    return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
+  }
 
  private:
   SASM::SimpleString always_key_;

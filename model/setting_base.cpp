@@ -48,7 +48,7 @@ void SettingBase::setVectorValue(SDIVector* value) {
 }
 
 double SettingBase::getDoubleValue() const {
-  return SASM::NumberOr(mSettingsManager->GetSetting(key_, domain_), -1.0);
+  return SASM::NumberOr(mSettingsManager->GetSetting(key_, domain_), kNoNumber);
 }
 
 bool SettingBase::getBoolValue(const SimpleString& key) {

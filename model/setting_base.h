@@ -24,6 +24,9 @@ class SettingBase {
   // The stored list itself, borrowed until the setting is replaced.
   [[nodiscard]] SASM::SDIVector* getVectorValue();
 
+  // What a missing number reads as.
+  static constexpr double kNoNumber = -1.0;
+
   // The one manager of the process, never freed; null before the first
   // setting is built.
   static SASM::SettingsManager* mSettingsManager;

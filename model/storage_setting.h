@@ -6,14 +6,19 @@
 #include "model/permission_setting.h"
 
 // Shows a limit in kilobytes as a permission, as a slider position with a
-// label, and beside it the space that the site uses now. Of the stored limit
-// -1 means Block (and stands for a missing one), 0 Ask and -2 unlimited.
+// label, and beside it the space that the site uses now. A missing limit
+// counts as Block.
 //
 // Changes are staged and written by commit(). A staged slider position comes
 // before a staged permission.
 class StorageSetting : public SettingBase {
  public:
   using State = PermissionSetting::_SettingsPermissionState;
+
+  // Limits that are codes.
+  static constexpr double kBlock = -1.0;
+  static constexpr double kAsk = 0.0;
+  static constexpr double kUnlimited = -2.0;
 
   StorageSetting(const char* key, SASM::SimpleString domain);
 
@@ -62,6 +67,7 @@ class StorageSetting : public SettingBase {
  private:
   [[nodiscard]] bool HasPendingPosition() const;
   bool CommitToAllSites();
+  [[nodiscard]] static const char* LabelOf(int position);
   static void FetchTexts();
 
   // The texts of sizes, in the language of the first setting built. Constant,
