@@ -148,6 +148,7 @@ bool SettingsReader::HadMemory(bool had) {
 
 void SettingsReader::Report(const char* message) {
   fault_ = {message, position_};
+  if (is_quiet_) return;
   std::fprintf(stderr, "SMSettingsReader: %s\n", message);
 }
 

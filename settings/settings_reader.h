@@ -15,6 +15,9 @@ class SettingsReader {
  public:
   SettingsReader(const unsigned char* data, unsigned long size);
 
+  // The lines on standard error, for callers that tell of LastFault() instead.
+  void KeepQuiet() { is_quiet_ = true; }
+
   // Parses the image from its start. A new dictionary, owned by the caller;
   // null when the image is rejected or memory is short. `*name` becomes a new
   // string with the dictionary name, owned by the caller, as soon as it has
@@ -83,6 +86,7 @@ class SettingsReader {
   std::uint64_t position_ = 0;
   Fault fault_;
   bool short_of_memory_ = false;
+  bool is_quiet_ = false;
 };
 
 }  // namespace SMImplementation
