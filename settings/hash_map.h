@@ -165,4 +165,12 @@ class HashMap {
 
 using SettingsDictionary = HashMap<SimpleString, SettingDataItem, hashSS>;
 
+// The value under a key, borrowed from the dictionary; null when there is
+// none.
+[[nodiscard]] inline SettingDataItem* FindSetting(
+    const SimpleString& key, const SettingsDictionary& dictionary) {
+  const auto found = dictionary.find(key);
+  return found == dictionary.end() ? nullptr : &found->value;
+}
+
 }  // namespace SASM

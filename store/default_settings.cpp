@@ -56,4 +56,22 @@ SettingDataItem MakeDefaultItem(const DefaultSetting& row,
   return SettingDataItem(std::move(name), NumberOr(master_item, row.value));
 }
 
+bool InsertMissingDefaults(std::span<const DefaultSetting> rows,
+                           const SettingsDictionary& master,
+                           SettingsDictionary* dictionary) {
+  bool all_are_there = true;
+  for (const DefaultSetting& row : rows) {
+    const SimpleString key = row.key;
+    if (FindSetting(key, *dictionary)) continue;
+    const SettingDataItem* master_item =
+        row.master_key ? FindSetting(row.master_key, master) : nullptr;
+    SettingDataItem item = MakeDefaultItem(row, master_item);
+    all_are_there =
+        item.IsWhole() &&
+        dictionary->insert(key, std::move(item)) != dictionary->end() &&
+        all_are_there;
+  }
+  return all_are_there;
+}
+
 }  // namespace SASM

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "settings/setting_data_item.h"
+#include "settings/hash_map.h"
 
 namespace SASM {
 
@@ -25,5 +25,12 @@ struct DefaultSetting {
 // master key, may be null.
 [[nodiscard]] SettingDataItem MakeDefaultItem(
     const DefaultSetting& row, const SettingDataItem* master_item);
+
+// Inserts the rows whose keys the dictionary lacks. `master` holds the master
+// settings; it may be the dictionary itself. False when memory was short for
+// one of them.
+[[nodiscard]] bool InsertMissingDefaults(std::span<const DefaultSetting> rows,
+                                         const SettingsDictionary& master,
+                                         SettingsDictionary* dictionary);
 
 }  // namespace SASM

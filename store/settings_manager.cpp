@@ -10,6 +10,7 @@
 #include "store/default_settings.h"
 #include "store/setting_keys.h"
 #include "store/settings_file.h"
+#include "store/stored_data.h"
 
 namespace SASM {
 namespace {
@@ -137,10 +138,9 @@ bool SettingsManager::HasSetting(const SimpleString& key,
 
 SettingDataItem* SettingsManager::GetSetting(const SimpleString& key,
                                              const SimpleString& domain) {
-  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
-  if (!dictionary) return nullptr;
-  const auto found = dictionary->find(key);
-  return found == dictionary->end() ? nullptr : &found->value;
+  const SettingsDictionary* dictionary =
+      EnsureSettingsAreLoadedForDomain(domain);
+  return dictionary ? FindSetting(key, *dictionary) : nullptr;
 }
 
 bool SettingsManager::SetSetting(SettingDataItem* item, const SimpleString& key,
@@ -194,20 +194,10 @@ bool SettingsManager::WriteOrUpdateDefaultMasterSettings() {
 bool SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
                                     const SimpleString& domain) {
   SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
-  if (!dictionary) return false;
-  bool all_are_there = true;
-  for (const DefaultSetting& row : rows) {
-    const SimpleString key = row.key;
-    if (dictionary->find(key) != dictionary->end()) continue;
-    const SettingDataItem* master_item =
-        row.master_key ? GetSetting(row.master_key, MasterDomain()) : nullptr;
-    SettingDataItem item = MakeDefaultItem(row, master_item);
-    all_are_there =
-        item.IsWhole() &&
-        dictionary->insert(key, std::move(item)) != dictionary->end() &&
-        all_are_there;
-  }
-  return all_are_there;
+  const SettingsDictionary* master =
+      EnsureSettingsAreLoadedForDomain(MasterDomain());
+  return dictionary && master &&
+         InsertMissingDefaults(rows, *master, dictionary);
 }
 
 SDIVector* SettingsManager::StoredDomains() {
@@ -230,11 +220,8 @@ void SettingsManager::VerifyDomainsList() {
   SDIVector* domains = StoredDomains();
   if (!domains || !mLayout.IsOnDisk()) return;
   domains->removeElementsIf([this](const void* element) {
-    const SimpleString& domain =
-        static_cast<const SettingDataItem*>(element)->name;
-    if (!HasPlace(domain)) return true;
-    const SimpleString file = mLayout.SettingsFileOf(domain);
-    return file.HasText() && mFileManager->SizeOfFileAtPath(file) == 0;
+    const auto* domain = static_cast<const SettingDataItem*>(element);
+    return !HasSettingsFile(domain->name, mLayout, *mFileManager);
   });
 }
 

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "store/settings_manager.h"
+#include "store/stored_data.h"
 
 namespace SASM {
 
@@ -85,8 +86,7 @@ bool SettingsManager::RemoveAssetCache() const {
 
 std::uint64_t SettingsManager::SizeOfLocalStorage(
     const SimpleString& domain) const {
-  if (!StaysInside(domain) || domain == MasterDomain()) return 0;
-  return mFileManager->SizeOfFileAtPath(mLayout.LocalStorageOf(domain));
+  return LocalStorageSize(domain, mLayout, *mFileManager);
 }
 
 std::uint64_t SettingsManager::SizeOfSettings(

@@ -1,0 +1,24 @@
+// What lies on disk for a site, found without changing anything.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/file_manager.h"
+#include "store/store_layout.h"
+
+namespace SASM {
+
+// Whether the domain's settings file is there and not empty: only then does
+// the list of domains keep it. True also when memory is short for the path.
+[[nodiscard]] bool HasSettingsFile(const SimpleString& domain,
+                                   const StoreLayout& layout,
+                                   const FileManager& files);
+
+// Bytes of the domain's local storage, its directories' own included. 0 for
+// the master domain, which has none, and for a name that could lead out of
+// the local storage.
+[[nodiscard]] std::uint64_t LocalStorageSize(const SimpleString& domain,
+                                             const StoreLayout& layout,
+                                             const FileManager& files);
+
+}  // namespace SASM
