@@ -225,8 +225,7 @@ FileDescriptor DirectoryWalk::OpenFromPath(const Level& target) const {
 
 FileDescriptor DirectoryWalk::Open(int parent, const char* name) const {
   const int no_links = links_ == Links::kRefuse ? O_NOFOLLOW : 0;
-  return FileDescriptor(
-      openat(parent, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC | no_links));
+  return OpenForReading(parent, name, O_DIRECTORY | no_links);
 }
 
 bool DirectoryWalk::IsInside(const FileIdentity& identity) const {

@@ -1,8 +1,10 @@
 // An owned file descriptor.
 #pragma once
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 // Closes its descriptor when it goes; -1 stands for none. Closing reports
@@ -20,6 +22,8 @@ class FileDescriptor {
 
   [[nodiscard]] bool IsOpen() const { return descriptor_ >= 0; }
   [[nodiscard]] int Get() const { return descriptor_; }
+  // The descriptor, which the caller closes.
+  [[nodiscard]] int Release() { return std::exchange(descriptor_, -1); }
   // False when the system reports an error; the descriptor is gone all the
   // same (Linux: close(2)).
   bool Close() {
@@ -30,3 +34,16 @@ class FileDescriptor {
  private:
   int descriptor_;
 };
+
+// Opens for reading, as openat(2) with these flags beside. Where the system
+// permits it, the file keeps its time of last access.
+[[nodiscard]] inline FileDescriptor OpenForReading(int directory,
+                                                   const char* path,
+                                                   int flags) {
+  const int read_flags = flags | O_RDONLY | O_CLOEXEC;
+  const int descriptor = openat(directory, path, read_flags | O_NOATIME);
+  // Only the owner of a file may ask for that.
+  const bool is_refused = descriptor < 0 && errno == EPERM;
+  return FileDescriptor(is_refused ? openat(directory, path, read_flags)
+                                   : descriptor);
+}

@@ -10,6 +10,7 @@
 #include <new>
 #include <string_view>
 
+#include "platform/file_descriptor.h"
 #include "platform/home_directory.h"
 #include "platform/tree_removal.h"
 #include "platform/tree_size.h"
@@ -31,6 +32,13 @@ bool MakeDirectory(const char* path) {
   if (access(path, F_OK) == 0 || mkdir(path, kDirectoryMode) == 0) return true;
   std::perror("CreateDirectoryAtPath");
   return false;
+}
+
+DIR* OpenDirectory(const char* path) {
+  FileDescriptor descriptor = OpenForReading(AT_FDCWD, path, O_DIRECTORY);
+  DIR* directory = descriptor.IsOpen() ? fdopendir(descriptor.Get()) : nullptr;
+  if (directory) (void)descriptor.Release();  // closedir closes it
+  return directory;
 }
 
 struct CloseDirectory {
@@ -124,7 +132,8 @@ SortableStringVector* LinuxFileManager::CreateNewListOfDirectoryContents(
   std::unique_ptr<SortableStringVector> names(new (std::nothrow)
                                                   SortableStringVector);
   if (!names || path.IsEmpty()) return names.release();
-  const std::unique_ptr<DIR, CloseDirectory> directory(opendir(path.c_str()));
+  const std::unique_ptr<DIR, CloseDirectory> directory(
+      OpenDirectory(path.c_str()));
   if (!directory) return names.release();
   while (const dirent* entry = readdir(directory.get())) {
     // Compared without a copy: for want of memory ".." must not be listed.

@@ -42,8 +42,8 @@ std::size_t ReadBytes(int descriptor, unsigned char* bytes, std::size_t size) {
 bool ReadFileImage(const SimpleString& path, FileImage* image) {
   image->short_of_memory = !path.HasText();
   if (path.IsEmpty()) return false;
-  FileDescriptor file(
-      open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  FileDescriptor file =
+      OpenForReading(AT_FDCWD, path.c_str(), O_NONBLOCK | O_NOCTTY);
   if (!file.IsOpen() || !SizeOfRegularFile(file.Get(), &image->size)) {
     return false;
   }
