@@ -73,6 +73,7 @@ SettingsReader::Entry SettingsReader::ReadEntry(SettingDataItem* item) {
   } else if (type < SASM::kSettingsDataTypeArray) {
     *item = ReadScalar(type, std::move(key));
   } else {
+    *item = SettingDataItem(key, SASM::_SettingsDataType{type}, nullptr);
     Report(
         "Unexpected data-type encountered when parsing settings; "
         "IGNORING VALUE.");
@@ -137,7 +138,7 @@ const unsigned char* SettingsReader::Take(std::uint64_t count,
 }
 
 bool SettingsReader::Reject(const char* what) {
-  fault_ = {what, position_};
+  Remember(what);
   return false;
 }
 
@@ -146,8 +147,13 @@ bool SettingsReader::HadMemory(bool had) {
   return had;
 }
 
+void SettingsReader::Remember(const char* what) {
+  fault_ = {what, position_};
+  if (!untold_fault_.what) untold_fault_ = fault_;
+}
+
 void SettingsReader::Report(const char* message) {
-  fault_ = {message, position_};
+  Remember(message);
   if (is_quiet_) return;
   std::fprintf(stderr, "SMSettingsReader: %s\n", message);
 }

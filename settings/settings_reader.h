@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
 #include "settings/hash_map.h"
 
@@ -15,7 +16,8 @@ class SettingsReader {
  public:
   SettingsReader(const unsigned char* data, unsigned long size);
 
-  // The lines on standard error, for callers that tell of LastFault() instead.
+  // The lines on standard error, for callers that tell of the faults
+  // themselves.
   void KeepQuiet() { is_quiet_ = true; }
 
   // Parses the image from its start. A new dictionary, owned by the caller;
@@ -48,7 +50,8 @@ class SettingsReader {
   // The steps of GetNewSettingsData, for callers that walk an image entry by
   // entry. ReadHeaders starts at the image's first byte and stops in front of
   // the first entry; false when it rejects the image. ReadEntry may be called
-  // until AtEnd() or a rejection, and fills `item` when the result is kRead.
+  // until AtEnd() or a rejection, and fills `item` unless it is kRejected; a
+  // dropped one has a name, its unknown type and no value.
   [[nodiscard]] bool ReadHeaders(SASM::SimpleString** name);
   [[nodiscard]] Entry ReadEntry(SASM::SettingDataItem* item);
   [[nodiscard]] bool AtEnd() const { return position_ == size_; }
@@ -66,6 +69,9 @@ class SettingsReader {
     std::uint64_t offset = 0;
   };
   [[nodiscard]] const Fault& LastFault() const { return fault_; }
+  // The first thing that was found wrong since the last call of this: what
+  // comes after it is often its consequence.
+  [[nodiscard]] Fault TakeFault() { return std::exchange(untold_fault_, {}); }
 
  private:
   // `count` bytes, or null and a line that names the operation.
@@ -74,6 +80,7 @@ class SettingsReader {
   void Report(const char* message);
   // False, having noted that memory is short, unless `had` is true.
   [[nodiscard]] bool HadMemory(bool had);
+  void Remember(const char* what);
   SASM::SimpleString ReadText();
   // Null when the array is not closed or memory is short.
   [[nodiscard]] SASM::SDIVector* ReadArray();
@@ -86,6 +93,7 @@ class SettingsReader {
   std::uint64_t position_ = 0;
   Fault fault_;
   bool short_of_memory_ = false;
+  Fault untold_fault_;
   bool is_quiet_ = false;
 };
 

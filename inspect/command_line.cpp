@@ -1,0 +1,166 @@
+#include "inspect/command_line.h"
+
+#include <getopt.h>
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using Action = CommandLine::Action;
+
+struct CommandRow {
+  const char* word;
+  const char* arguments;
+  const char* help;
+  Action action;
+  // Options beside those that every command takes.
+  const char* options;
+  bool takes_names;
+  bool needs_names;
+};
+
+constexpr CommandRow kCommands[] = {
+    {"show", "[SITE...]", "show the global settings and those of the sites",
+     Action::kShow, "jp", true, false},
+    {"inspect", "FILE...", "show what settings files hold, entry by entry",
+     Action::kInspect, "j", true, true},
+    {"version", "", "show which versions are installed", Action::kVersion, "",
+     false, false},
+};
+
+struct OptionRow {
+  char letter;
+  const char* name;
+  const char* argument;
+  const char* help;
+};
+
+constexpr OptionRow kOptions[] = {
+    {'j', "json", nullptr, "with show or inspect: print JSON"},
+    {'p', "permission", "KIND=STATE",
+     "with show: only sites of which this holds"},
+    {'h', "help", nullptr, "print this help and exit"},
+    {'V', "version", nullptr, "print the version of this program and exit"},
+};
+
+bool SuggestHelp() {
+  std::fprintf(stderr, "Try '%s --help'.\n", kProgramName);
+  return false;
+}
+
+bool Complain(const char* what, std::string_view about = "") {
+  std::fprintf(stderr, "%s: %s%.*s\n", kProgramName, what,
+               static_cast<int>(about.size()), about.data());
+  return SuggestHelp();
+}
+
+template <typename Rows>
+const auto* FindWord(const Rows& rows, std::string_view word) {
+  const auto* row = std::find_if(
+      std::begin(rows), std::end(rows),
+      [word](const auto& candidate) { return candidate.word == word; });
+  return row == std::end(rows) ? nullptr : row;
+}
+
+bool ParseFilter(std::string_view text, CommandLine* command) {
+  const std::size_t equals = text.find('=');
+  if (equals != text.npos) {
+    const auto* kind = FindWord(kPermissions, text.substr(0, equals));
+    const auto* state = FindWord(kStates, text.substr(equals + 1));
+    if (kind && state) {
+      command->filters.push_back({kind->permission, state->state});
+      return true;
+    }
+  }
+  return Complain("no such permission: ", text);
+}
+
+// `given` holds the letters of the options that the user gave.
+bool ParseCommand(std::span<char* const> words, std::string_view given,
+                  CommandLine* command) {
+  if (words.empty()) return Complain("a command is missing");
+  const CommandRow* row = FindWord(kCommands, words[0]);
+  if (!row) return Complain("no such command: ", words[0]);
+  const std::size_t stray = given.find_first_not_of(row->options);
+  if (stray != given.npos) {
+    return Complain("the command does not take the option -",
+                    given.substr(stray, 1));
+  }
+  command->action = row->action;
+  command->names = words.subspan(1);
+  if (command->names.empty()) {
+    return !row->needs_names || Complain("a file is missing");
+  }
+  return row->takes_names || Complain("stray argument: ", words[1]);
+}
+
+// kOptions as getopt_long(3) wants it.
+struct OptionTables {
+  OptionTables() {
+    for (const OptionRow& row : kOptions) {
+      const int has_argument = row.argument ? required_argument : no_argument;
+      names.push_back({row.name, has_argument, nullptr, row.letter});
+      letters += row.letter;
+      if (row.argument) letters += ':';
+    }
+    names.push_back({});
+  }
+
+  std::vector<option> names;
+  std::string letters;
+};
+
+}  // namespace
+
+bool ParseCommandLine(std::span<char*> arguments, CommandLine* command) {
+  const OptionTables tables;
+  const auto count = static_cast<int>(arguments.size());
+  std::string given;
+  for (;;) {
+    const int letter =
+        getopt_long(count, arguments.data(), tables.letters.c_str(),
+                    tables.names.data(), nullptr);
+    if (letter == -1) break;
+    if (letter == '?') return SuggestHelp();
+    given += static_cast<char>(letter);
+    if (letter == 'j') command->json = true;
+    if (letter == 'p' && !ParseFilter(optarg, command)) return false;
+    if (letter != 'h' && letter != 'V') continue;
+    command->action = letter == 'h' ? Action::kHelp : Action::kProgramVersion;
+    return true;
+  }
+  return ParseCommand(arguments.subspan(static_cast<std::size_t>(optind)),
+                      given, command);
+}
+
+void PrintHelp(std::FILE* output) {
+  constexpr int kColumn = 30;
+  std::fprintf(output,
+               "Usage: %s COMMAND [OPTION...] [ARGUMENT...]\n"
+               "Show the settings of Corvane Player without changing them.\n\n"
+               "Commands:\n",
+               kProgramName);
+  for (const CommandRow& row : kCommands) {
+    const std::string words = std::string(row.word) + " " + row.arguments;
+    std::fprintf(output, "  %-*s%s\n", kColumn, words.c_str(), row.help);
+  }
+  std::fputs("\nOptions:\n", output);
+  for (const OptionRow& row : kOptions) {
+    std::string words = {'-', row.letter, ',', ' ', '-', '-'};
+    words += row.name;
+    if (row.argument) words += std::string("=") + row.argument;
+    std::fprintf(output, "  %-*s%s\n", kColumn, words.c_str(), row.help);
+  }
+  std::fputs(
+      "\nKIND is storage, camera or network; STATE is block, ask or allow.\n"
+      "Exit status: 0 if all is well, 1 if something is damaged or cannot "
+      "be read,\n2 if the command line makes no sense.\n",
+      output);
+}
+
+void PrintProgramVersion(std::FILE* output) {
+  std::fprintf(output, "%s %s\n", kProgramName, PROGRAM_VERSION);
+}

@@ -1,0 +1,254 @@
+#include <cerrno>
+#include <cinttypes>
+#include <cstdio>
+#include <cstring>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "inspect/commands.h"
+#include "inspect/json_writer.h"
+#include "inspect/plain_text.h"
+#include "inspect/problems.h"
+#include "inspect/settings_source.h"
+#include "settings/settings_reader.h"
+
+using SASM::SettingDataItem;
+using SASM::SimpleString;
+using SMImplementation::SettingsReader;
+
+namespace {
+
+// In the order of _SettingsDataType.
+constexpr const char* kTypeWords[] = {"number", "boolean", "string", "array"};
+
+const char* TypeWord(const SettingDataItem& item) {
+  const auto type = static_cast<unsigned int>(item.type);
+  return type < std::size(kTypeWords) ? kTypeWords[type] : "unknown";
+}
+
+// Prints what a file holds, in the order of the calls.
+class Listing {
+ public:
+  virtual ~Listing() = default;
+  virtual void BeginFile(const char* path) = 0;
+  // What the file calls itself, in front of its entries.
+  virtual void Name(const char* name) = 0;
+  // An entry and what was wrong in it, if anything was.
+  virtual void Entry(const SettingDataItem& entry, std::uint64_t offset,
+                     const SettingsReader::Fault& fault) = 0;
+  // `damage` is what made an end of the reading, or else the first thing that
+  // was wrong in the file; without a text when all is well.
+  virtual void EndFile(const SettingsReader::Fault& damage,
+                       bool is_rejected) = 0;
+};
+
+class TextListing : public Listing {
+ public:
+  void BeginFile(const char* path) override {
+    std::puts(Printable(path).c_str());
+  }
+  void Name(const char* name) override {
+    std::printf("  \"%s\"\n", Printable(name).c_str());
+  }
+  void Entry(const SettingDataItem& entry, std::uint64_t offset,
+             const SettingsReader::Fault& fault) override {
+    PrintItem(std::to_string(offset), entry);
+    const SASM::SDIVector* elements = SASM::ArrayOrNull(&entry);
+    for (unsigned int i = 0; elements && i < elements->count; ++i) {
+      PrintItem("", *elements->At(i));
+    }
+    if (fault.what) PrintFault(fault);
+  }
+  void EndFile(const SettingsReader::Fault& damage, bool is_rejected) override {
+    if (is_rejected) PrintFault(damage);
+  }
+
+ private:
+  static std::string ValueText(const SettingDataItem& item) {
+    switch (item.type) {
+      case SASM::kSettingsDataTypeDouble:
+        return " = " + Decimal(item.value.number);
+      case SASM::kSettingsDataTypeBool:
+        return item.value.boolean ? " = true" : " = false";
+      case SASM::kSettingsDataTypeString:
+        return " = \"" + Printable(item.value.string->c_str()) + "\"";
+      default:
+        return "";
+    }
+  }
+
+  // An element of an array has no offset, and stands farther to the right.
+  static void PrintItem(const std::string& offset,
+                        const SettingDataItem& item) {
+    std::printf("%10s  %-7s  %s%s%s\n", offset.c_str(), TypeWord(item),
+                offset.empty() ? "  " : "",
+                Printable(item.name.c_str()).c_str(), ValueText(item).c_str());
+  }
+
+  static void PrintFault(const SettingsReader::Fault& fault) {
+    std::printf("%10" PRIu64 "  damage   %s\n", fault.offset, fault.what);
+  }
+};
+
+class JsonListing : public Listing {
+ public:
+  JsonListing() { json_.BeginArray(); }
+  ~JsonListing() override {
+    json_.EndArray();
+    JsonWriter::EndLine();
+  }
+  JsonListing(const JsonListing&) = delete;
+  JsonListing& operator=(const JsonListing&) = delete;
+
+  void BeginFile(const char* path) override {
+    json_.BeginObject();
+    json_.Key("file").Text(path);
+  }
+  void Name(const char* name) override {
+    json_.Key("name").Text(name);
+    json_.Key("entries").BeginArray();
+    has_entries_ = true;
+  }
+  void Entry(const SettingDataItem& entry, std::uint64_t offset,
+             const SettingsReader::Fault& fault) override {
+    json_.BeginObject();
+    json_.Key("offset").Integer(offset);
+    WriteItem("key", entry);
+    if (fault.what) WriteFault(fault);
+    json_.EndObject();
+  }
+  void EndFile(const SettingsReader::Fault& damage, bool) override {
+    if (std::exchange(has_entries_, false)) json_.EndArray();
+    if (damage.what) WriteFault(damage);
+    json_.EndObject();
+  }
+
+ private:
+  void WriteItem(const char* name_key, const SettingDataItem& item) {
+    json_.Key(name_key).Text(item.name.c_str());
+    json_.Key("type").Text(TypeWord(item));
+    const auto type = static_cast<unsigned int>(item.type);
+    if (type < std::size(kTypeWords)) WriteValue(item);
+  }
+
+  void WriteValue(const SettingDataItem& item) {
+    json_.Key("value");
+    if (const SASM::SDIVector* elements = SASM::ArrayOrNull(&item)) {
+      return WriteElements(*elements);
+    }
+    if (item.type == SASM::kSettingsDataTypeString) {
+      json_.Text(item.value.string->c_str());
+    } else if (item.type == SASM::kSettingsDataTypeBool) {
+      json_.Boolean(item.value.boolean);
+    } else {
+      json_.Number(item.value.number);
+    }
+  }
+
+  void WriteElements(const SASM::SDIVector& elements) {
+    json_.BeginArray();
+    for (unsigned int i = 0; i < elements.count; ++i) {
+      json_.BeginObject();
+      WriteItem("name", *elements.At(i));
+      json_.EndObject();
+    }
+    json_.EndArray();
+  }
+
+  void WriteFault(const SettingsReader::Fault& fault) {
+    json_.Key("damage").BeginObject();
+    json_.Key("what").Text(fault.what);
+    json_.Key("offset").Integer(fault.offset);
+    json_.EndObject();
+  }
+
+  JsonWriter json_;
+  bool has_entries_ = false;
+};
+
+// Walks the entries of one image.
+class Inspection {
+ public:
+  Inspection(const SASM::FileImage& image, Listing* listing)
+      : reader_(image.bytes.get(), image.size), listing_(listing) {
+    reader_.KeepQuiet();
+  }
+
+  void Run() {
+    SimpleString* read_name = nullptr;
+    is_rejected_ = !reader_.ReadHeaders(&read_name);
+    const std::unique_ptr<SimpleString> name(read_name);
+    (void)TakeFault();
+    if (is_rejected_) return;
+    listing_->Name(name && name->HasText() ? name->c_str() : "");
+    while (!is_rejected_ && !reader_.AtEnd()) ListEntry();
+  }
+
+  // See Listing::EndFile.
+  [[nodiscard]] const SettingsReader::Fault& Damage() const { return damage_; }
+  [[nodiscard]] bool IsRejected() const { return is_rejected_; }
+
+ private:
+  void ListEntry() {
+    const std::uint64_t offset = reader_.Position();
+    SettingDataItem entry;
+    const SettingsReader::Entry result = reader_.ReadEntry(&entry);
+    is_rejected_ = result == SettingsReader::Entry::kRejected;
+    const SettingsReader::Fault fault = TakeFault();
+    if (!is_rejected_) listing_->Entry(entry, offset, fault);
+  }
+
+  // What has been found wrong since the last call.
+  SettingsReader::Fault TakeFault() {
+    SettingsReader::Fault fault = reader_.TakeFault();
+    if (is_rejected_ && !fault.what) {
+      fault = {"Memory is short.", reader_.Position()};
+    }
+    if (is_rejected_ || !damage_.what) damage_ = fault;
+    return fault;
+  }
+
+  SettingsReader reader_;
+  Listing* listing_;
+  SettingsReader::Fault damage_;
+  bool is_rejected_ = false;
+};
+
+// False when something is wrong with the file.
+bool InspectFile(const char* path, Listing* listing) {
+  SASM::FileImage image;
+  const Reading reading = ReadImage(path, &image);
+  if (reading == Reading::kMissing) ReportProblem(path, std::strerror(errno));
+  listing->BeginFile(path);
+  if (reading != Reading::kDone) {
+    listing->EndFile({}, false);
+    return false;
+  }
+  Inspection inspection(image, listing);
+  inspection.Run();
+  const SettingsReader::Fault& damage = inspection.Damage();
+  listing->EndFile(damage, inspection.IsRejected());
+  if (damage.what) ReportDamage(path, damage.what, damage.offset);
+  return !damage.what;
+}
+
+bool InspectFiles(const CommandLine& command, Listing* listing) {
+  bool are_sound = true;
+  for (const char* path : command.names) {
+    are_sound = InspectFile(path, listing) && are_sound;
+  }
+  return are_sound;
+}
+
+}  // namespace
+
+bool RunInspect(const CommandLine& command) {
+  if (command.json) {
+    JsonListing listing;
+    return InspectFiles(command, &listing);
+  }
+  TextListing listing;
+  return InspectFiles(command, &listing);
+}

@@ -1,0 +1,49 @@
+// Shows the settings of the player, its sites and its plug-in, and changes
+// nothing.
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "inspect/commands.h"
+#include "inspect/problems.h"
+
+namespace {
+
+enum ExitStatus { kWell = 0, kDamaged = 1, kUsage = 2 };
+
+bool Run(const CommandLine& command) {
+  switch (command.action) {
+    case CommandLine::Action::kShow:
+      return RunShow(command);
+    case CommandLine::Action::kInspect:
+      return RunInspect(command);
+    case CommandLine::Action::kVersion:
+      return true;
+    case CommandLine::Action::kProgramVersion:
+      PrintProgramVersion(stdout);
+      return true;
+    case CommandLine::Action::kHelp:
+      PrintHelp(stdout);
+      return true;
+  }
+  return false;
+}
+
+// What is in a buffer is not written yet.
+bool CloseOutput() {
+  errno = 0;
+  if (std::ferror(stdout) == 0 && std::fclose(stdout) == 0) return true;
+  ReportProblem("standard output",
+                errno ? std::strerror(errno) : "not written");
+  return false;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  CommandLine command;
+  const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
+  if (!ParseCommandLine(arguments, &command)) return kUsage;
+  const bool is_well = Run(command);
+  return CloseOutput() && is_well ? kWell : kDamaged;
+}

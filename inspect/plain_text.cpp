@@ -1,0 +1,109 @@
+#include "inspect/plain_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <clocale>
+#include <cstdio>
+#include <cwchar>
+
+#include "strings/utf8.h"
+
+namespace {
+
+// A longer cell pushes its own row out of line, not all the others.
+constexpr int kWidestColumn = 48;
+
+struct Range {
+  char32_t first;
+  char32_t last;
+};
+
+constexpr Range kInvisible[] = {
+    {0x00, 0x1F},     {0x7F, 0x9F},     {0x061C, 0x061C}, {0x200B, 0x200F},
+    {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF},
+};
+
+// The character of a well-formed sequence.
+char32_t Decode(std::string_view sequence) {
+  const auto first = static_cast<unsigned char>(sequence[0]);
+  if (sequence.size() == 1) return first;
+  char32_t character = first & (0x7FU >> sequence.size());
+  for (const char c : sequence.substr(1)) {
+    character = character << 6 | (static_cast<unsigned char>(c) & 0x3FU);
+  }
+  return character;
+}
+
+bool IsVisible(std::string_view sequence) {
+  const char32_t character = Decode(sequence);
+  return std::ranges::none_of(kInvisible, [character](const Range& range) {
+    return range.first <= character && character <= range.last;
+  });
+}
+
+void AppendEscaped(std::string_view bytes, std::string* text) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    *text += {'\\', 'x', kDigits[byte >> 4], kDigits[byte & 0xF]};
+  }
+}
+
+// Columns on a screen, of well-formed text.
+int DisplayWidth(std::string_view text) {
+  int width = 0;
+  while (!text.empty()) {
+    const std::size_t size = NCPStrings::SequenceLength(text);
+    const int columns =
+        wcwidth(static_cast<wchar_t>(Decode(text.substr(0, size))));
+    width += columns < 0 ? 1 : columns;
+    text.remove_prefix(size);
+  }
+  return width;
+}
+
+}  // namespace
+
+std::string Printable(std::string_view bytes) {
+  std::string text;
+  while (!bytes.empty()) {
+    const std::size_t size = NCPStrings::SequenceLength(bytes);
+    const std::string_view sequence =
+        bytes.substr(0, std::max<std::size_t>(size, 1));
+    if (sequence == "\\") {
+      text += "\\\\";
+    } else if (size > 0 && IsVisible(sequence)) {
+      text += sequence;
+    } else {
+      AppendEscaped(sequence, &text);
+    }
+    bytes.remove_prefix(sequence.size());
+  }
+  return text;
+}
+
+std::string Decimal(double number) {
+  char digits[32];
+  const auto result = std::to_chars(digits, digits + sizeof digits, number);
+  return {digits, result.ptr};
+}
+
+void TextTable::Print() const {
+  // What wcwidth(3) goes by.
+  std::setlocale(LC_CTYPE, "C.UTF-8");
+  std::vector<int> widths;
+  for (const Row& row : rows_) {
+    widths.resize(row.size());
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      const int width = DisplayWidth(row[i]);
+      if (width <= kWidestColumn) widths[i] = std::max(widths[i], width);
+    }
+  }
+  for (const Row& row : rows_) {
+    for (std::size_t i = 0; i + 1 < row.size(); ++i) {
+      const int padding = std::max(widths[i] - DisplayWidth(row[i]), 0) + 2;
+      std::printf("%s%*s", row[i].c_str(), padding, "");
+    }
+    std::puts(row.back().c_str());
+  }
+}

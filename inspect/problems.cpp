@@ -1,0 +1,17 @@
+#include "inspect/problems.h"
+
+#include <cinttypes>
+#include <cstdio>
+
+#include "inspect/command_line.h"
+#include "inspect/plain_text.h"
+
+void ReportProblem(const char* name, const char* what) {
+  std::fprintf(stderr, "%s: %s: %s\n", kProgramName, Printable(name).c_str(),
+               what);
+}
+
+void ReportDamage(const char* file, const char* what, std::uint64_t offset) {
+  std::fprintf(stderr, "%s: %s: byte %" PRIu64 ": %s\n", kProgramName,
+               Printable(file).c_str(), offset, what);
+}
