@@ -3,7 +3,10 @@
 
 #include "inspect/command_line.h"
 
-// Each is false when something was damaged, unreadable or unknown, which
+// Both are false when something was damaged, unreadable or unknown, which
 // standard error then names.
 [[nodiscard]] bool RunShow(const CommandLine& command);
 [[nodiscard]] bool RunInspect(const CommandLine& command);
+
+// Loads the plug-in, see plugin/plugin_version.h.
+void RunVersion();

@@ -18,6 +18,7 @@ bool Run(const CommandLine& command) {
     case CommandLine::Action::kInspect:
       return RunInspect(command);
     case CommandLine::Action::kVersion:
+      RunVersion();
       return true;
     case CommandLine::Action::kProgramVersion:
       PrintProgramVersion(stdout);

@@ -1,0 +1,37 @@
+#include <string>
+
+#include "inspect/commands.h"
+#include "inspect/plain_text.h"
+#include "plugin/plugin_version.h"
+#include "strings/string_manager.h"
+
+namespace {
+
+// Ids of texts.
+int TextOf(PluginState state) {
+  switch (state) {
+    case PluginState::kInstalled:
+      return 51300;
+    case PluginState::kNoVersion:
+      return 51301;
+    case PluginState::kNotInstalled:
+      break;
+  }
+  return 51302;
+}
+
+}  // namespace
+
+void RunVersion() {
+  PrintProgramVersion(stdout);
+  const char* version = nullptr;
+  const PluginState state = FindPluginVersion(&version);
+  StringManager strings;
+  const char* found = strings.GetString(TextOf(state));
+  std::string text = found ? found : "";
+  const std::size_t placeholder = text.find("%s");
+  if (version && placeholder != text.npos) {
+    text.replace(placeholder, 2, Printable(version));
+  }
+  std::puts(text.c_str());
+}
