@@ -7,8 +7,7 @@
 // references is written once for every language, and says which: an element
 // of XML in its attribute xml:lang, a key of a desktop entry in brackets
 // behind it. Other lines are copied.
-#include <cctype>
-#include <cstdio>
+#include <charconv>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -53,14 +52,16 @@ std::vector<Translation> AllTranslations() {
   return all;
 }
 
-// The id that a reference at `start` names, and where the reference ends; 0
-// when there is no reference.
+// The id of the text that a reference at `start` stands for, and where the
+// reference ends; 0 when none is there.
 int ReferenceAt(const std::string& line, std::size_t start, std::size_t* end) {
-  std::size_t next = start + 1;
-  while (next < line.size() && std::isdigit(line[next])) ++next;
-  if (line[start] != '{' || next == start + 1 || line[next] != '}') return 0;
-  *end = next + 1;
-  return std::atoi(line.c_str() + start + 1);
+  if (line[start] != '{') return 0;
+  const std::size_t brace = line.find_first_not_of("0123456789", start + 1);
+  if (brace == line.npos || line[brace] != '}') return 0;
+  int id = 0;
+  std::from_chars(&line[start + 1], &line[brace], id);
+  if (id != 0) *end = brace + 1;
+  return id;
 }
 
 // The line with its references filled in. `*has_references` says whether it

@@ -39,7 +39,7 @@ class StoreView {
 
   // Whether the panel shows the listed site.
   [[nodiscard]] bool IsKnown(const SASM::SimpleString& site) const;
-  [[nodiscard]] SiteSettings Read(const SASM::SimpleString& site) const;
+  [[nodiscard]] SiteSettings Read(const SASM::SimpleString& name) const;
 
  private:
   [[nodiscard]] bool BlocksNetwork() const;

@@ -41,9 +41,9 @@ class FileDescriptor {
                                                    const char* path,
                                                    int flags) {
   const int read_flags = flags | O_RDONLY | O_CLOEXEC;
-  const int descriptor = openat(directory, path, read_flags | O_NOATIME);
-  // Only the owner of a file may ask for that.
-  const bool is_refused = descriptor < 0 && errno == EPERM;
-  return FileDescriptor(is_refused ? openat(directory, path, read_flags)
-                                   : descriptor);
+  int descriptor = openat(directory, path, read_flags | O_NOATIME);
+  if (descriptor < 0 && errno == EPERM) {  // the file is another user's
+    descriptor = openat(directory, path, read_flags);
+  }
+  return FileDescriptor(descriptor);
 }
