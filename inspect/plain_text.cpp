@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <clocale>
 #include <cstdio>
-#include <cwchar>
+#include <span>
 
 #include "strings/utf8.h"
 
@@ -23,6 +22,24 @@ constexpr Range kInvisible[] = {
     {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF},
 };
 
+// Characters that take two columns (Unicode Standard Annex #11), and none.
+// Not wcwidth(3), which knows only the characters of the user's locale.
+constexpr Range kWide[] = {
+    {0x1100, 0x115F},   {0x2E80, 0x303E},   {0x3041, 0x4DBF},
+    {0x4E00, 0xA4CF},   {0xA960, 0xA97C},   {0xAC00, 0xD7A3},
+    {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},   {0xFF01, 0xFF60},
+    {0xFFE0, 0xFFE6},   {0x1F300, 0x1F64F}, {0x1F680, 0x1F6FF},
+    {0x1F900, 0x1FAFF}, {0x20000, 0x3FFFD},
+};
+constexpr Range kCombining[] = {
+    {0x0300, 0x036F}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}};
+
+bool IsIn(std::span<const Range> ranges, char32_t character) {
+  return std::ranges::any_of(ranges, [character](const Range& range) {
+    return range.first <= character && character <= range.last;
+  });
+}
+
 // The character of a well-formed sequence.
 char32_t Decode(std::string_view sequence) {
   const auto first = static_cast<unsigned char>(sequence[0]);
@@ -32,13 +49,6 @@ char32_t Decode(std::string_view sequence) {
     character = character << 6 | (static_cast<unsigned char>(c) & 0x3FU);
   }
   return character;
-}
-
-bool IsVisible(std::string_view sequence) {
-  const char32_t character = Decode(sequence);
-  return std::ranges::none_of(kInvisible, [character](const Range& range) {
-    return range.first <= character && character <= range.last;
-  });
 }
 
 void AppendEscaped(std::string_view bytes, std::string* text) {
@@ -54,9 +64,8 @@ int DisplayWidth(std::string_view text) {
   int width = 0;
   while (!text.empty()) {
     const std::size_t size = NCPStrings::SequenceLength(text);
-    const int columns =
-        wcwidth(static_cast<wchar_t>(Decode(text.substr(0, size))));
-    width += columns < 0 ? 1 : columns;
+    const char32_t character = Decode(text.substr(0, size));
+    if (!IsIn(kCombining, character)) width += IsIn(kWide, character) ? 2 : 1;
     text.remove_prefix(size);
   }
   return width;
@@ -72,7 +81,7 @@ std::string Printable(std::string_view bytes) {
         bytes.substr(0, std::max<std::size_t>(size, 1));
     if (sequence == "\\") {
       text += "\\\\";
-    } else if (size > 0 && IsVisible(sequence)) {
+    } else if (size > 0 && !IsIn(kInvisible, Decode(sequence))) {
       text += sequence;
     } else {
       AppendEscaped(sequence, &text);
@@ -89,8 +98,6 @@ std::string Decimal(double number) {
 }
 
 void TextTable::Print() const {
-  // What wcwidth(3) goes by.
-  std::setlocale(LC_CTYPE, "C.UTF-8");
   std::vector<int> widths;
   for (const Row& row : rows_) {
     widths.resize(row.size());

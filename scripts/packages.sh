@@ -23,10 +23,17 @@ headless_packages=(
   xvfb
 )
 
+package_packages=(
+  debhelper
+  dpkg-dev
+)
+
 # shellcheck disable=SC2034
 test_packages=(
+  "${package_packages[@]}"
   appstream
   at-spi2-core
+  bash-completion
   clang-format
   clang-tidy
   cppcheck

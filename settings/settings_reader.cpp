@@ -148,8 +148,7 @@ bool SettingsReader::HadMemory(bool had) {
 }
 
 void SettingsReader::Remember(const char* what) {
-  fault_ = {what, position_};
-  if (!untold_fault_.what) untold_fault_ = fault_;
+  if (!fault_.what) fault_ = {what, position_};
 }
 
 void SettingsReader::Report(const char* message) {

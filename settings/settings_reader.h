@@ -62,16 +62,15 @@ class SettingsReader {
   // and a rejected entry then say nothing about the image.
   [[nodiscard]] bool WasShortOfMemory() const { return short_of_memory_; }
 
-  // The last thing that was found wrong: a constant text, null when nothing
-  // was, and the offset in bytes at which it was found.
+  // Something found wrong: a constant text, null when nothing was, and the
+  // offset in bytes at which it was found.
   struct Fault {
     const char* what = nullptr;
     std::uint64_t offset = 0;
   };
-  [[nodiscard]] const Fault& LastFault() const { return fault_; }
-  // The first thing that was found wrong since the last call of this: what
-  // comes after it is often its consequence.
-  [[nodiscard]] Fault TakeFault() { return std::exchange(untold_fault_, {}); }
+  // The first since the last call of this: what comes after is often its
+  // consequence.
+  [[nodiscard]] Fault TakeFault() { return std::exchange(fault_, {}); }
 
  private:
   // `count` bytes, or null and a line that names the operation.
@@ -93,7 +92,6 @@ class SettingsReader {
   std::uint64_t position_ = 0;
   Fault fault_;
   bool short_of_memory_ = false;
-  Fault untold_fault_;
   bool is_quiet_ = false;
 };
 

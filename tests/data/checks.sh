@@ -10,6 +10,8 @@ programs=(corvane-player-properties corvane-player-settings)
 data=$BUILD_DIRECTORY/data
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
+# The system's own locale, wherever the tests keep theirs.
+unset LOCPATH
 export LC_ALL=C.UTF-8
 
 fail() {

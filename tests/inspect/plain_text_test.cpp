@@ -47,12 +47,16 @@ TEST(TextTable, KeepsColumnsInLine) {
   table.Add({"ab", "x"});
   table.Add({"日本", "y"});
   table.Add({"é", "z"});
+  table.Add({"e\u0301", "z"});
+  table.Add({"한글", "z"});
   testing::internal::CaptureStdout();
   table.Print();
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
             "ab    x\n"
             "日本  y\n"
-            "é     z\n");
+            "é     z\n"
+            "e\u0301     z\n"
+            "한글  z\n");
 }
 
 TEST(TextTable, LetsOneLongCellPushOnlyItsOwnRow) {

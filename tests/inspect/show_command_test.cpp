@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <limits>
 #include <map>
@@ -354,6 +355,15 @@ TEST_F(ShowCommand, RefusesCommandLinesWithoutSense) {
     EXPECT_EQ(run.output, "");
     EXPECT_THAT(run.errors, HasSubstr("--help"));
   }
+}
+
+TEST_F(ShowCommand, SpeaksTheLanguageOfTheUserButNotInJson) {
+  constexpr char kLocale[] = "de_DE.UTF-8";
+  if (!std::setlocale(LC_MESSAGES, kLocale)) GTEST_SKIP() << kLocale;
+  setenv("LC_ALL", kLocale, 1);
+  EXPECT_THAT(Run("show").output,
+              HasSubstr("Kamera- und Mikrofoneinstellungen  "));
+  EXPECT_EQ(Query(".global.camera"), "ask\n");
 }
 
 TEST_F(ShowCommand, TellsOfItself) {
