@@ -39,7 +39,7 @@ bool IsAcceptedInSteps(const std::uint8_t* data, std::size_t size) {
     accepted = reader.ReadEntry(&item) != SettingsReader::Entry::kRejected;
     Require(reader.Position() > start, "an entry takes bytes");
   }
-  Require(accepted || reader.LastFault().what, "a rejection has a reason");
+  Require(accepted || reader.TakeFault().what, "a rejection has a reason");
   return accepted;
 }
 

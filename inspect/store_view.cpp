@@ -44,8 +44,9 @@ StoreView::StoreView(const SASM::FileManager& files)
     master_ = std::move(master.dictionary);
   }
   if (!master_) master_ = std::make_unique<SettingsDictionary>();
-  SASM::InsertMissingDefaults(SASM::DefaultMasterSettings(), *master_,
-                              master_.get());
+  // A default for which memory is short reads as a missing setting.
+  (void)SASM::InsertMissingDefaults(SASM::DefaultMasterSettings(), *master_,
+                                    master_.get());
 }
 
 GlobalSettings StoreView::Global() const {
