@@ -1,7 +1,11 @@
 // The associative container of the settings dictionaries.
 #pragma once
 
+#include <search.h>
+
+#include <cstring>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 #include "settings/setting_data_item.h"
@@ -10,10 +14,11 @@
 namespace SASM {
 
 // Maps texts to values. Sixteen buckets, never rehashed: a dictionary holds a
-// few dozen keys. All nodes stand in one doubly linked list, ascending by
-// bucket, and within a bucket newest first; a walk of that list is the
-// dictionary order, in which settings files are written. A sentinel closes
-// the list.
+// few dozen keys. One with many more, of which a file made to be slow has
+// hundreds of thousands in one bucket, is searched by a tree beside it. All
+// nodes stand in one doubly linked list, ascending by bucket, and within a
+// bucket newest first; a walk of that list is the dictionary order, in which
+// settings files are written. A sentinel closes the list.
 //
 // Owns its keys and values; of a value that is a pointer, the pointer only.
 // A pointer to a value lives until that entry is erased or the map is
@@ -50,6 +55,8 @@ class HashMap {
   };
 
   static constexpr unsigned int kBucketCount = 16;
+  // More entries than this are searched by the tree.
+  static constexpr unsigned int kMostWithoutTree = 256;
 
   HashMap() { (void)Initialize(); }  // IsUsable tells the result
   ~HashMap() {
@@ -81,8 +88,14 @@ class HashMap {
       return iterator(this, node);
     }
     node = NewNode(std::move(key), std::move(value), hash);
-    if (node) Link(node);
-    return iterator(this, node ? node : sentinel_);
+    if (!node) return end();
+    if ((++count_ > kMostWithoutTree || tree_) && !AddToTree(node)) {
+      --count_;
+      delete node;
+      return end();
+    }
+    Link(node);
+    return iterator(this, node);
   }
 
   // Removes the entry at a position other than end().
@@ -94,6 +107,8 @@ class HashMap {
       const bool heads_others = node->next->bucket == node->bucket;
       buckets_[node->bucket] = heads_others ? node->next : nullptr;
     }
+    if (tree_) tdelete(&node->key, &tree_, CompareKeys);
+    --count_;
     delete node;
   }
 
@@ -101,6 +116,7 @@ class HashMap {
   // that was not tries again: false when memory is still short.
   bool clear() {
     if (IsUsable()) {
+      DropTree();
       while (begin_ != sentinel_) erase(begin());
       return true;
     }
@@ -121,6 +137,7 @@ class HashMap {
 
   // Leaves stale pointers behind: only Initialize or the destructor follow.
   bool DeleteAllEntries() {
+    DropTree();
     for (Node* node = begin_; node;) delete std::exchange(node, node->next);
     return true;
   }
@@ -128,6 +145,7 @@ class HashMap {
   // The sentinel when the key is absent.
   Node* FindNode(const K& key, unsigned int hash) const {
     if (!buckets_) return sentinel_;
+    if (tree_) return FindInTree(key);
     const unsigned int bucket = hash % kBucketCount;
     for (Node* node = buckets_[bucket]; node && node->bucket == bucket;
          node = node->next) {
@@ -158,6 +176,40 @@ class HashMap {
     return buckets_[bucket];
   }
 
+  // --- The tree of <search.h>: pointers to the keys of all nodes. There is
+  // none as long as the map is small.
+
+  static int CompareKeys(const void* a, const void* b) {
+    return std::strcmp(static_cast<const K*>(a)->c_str(),
+                       static_cast<const K*>(b)->c_str());
+  }
+
+  Node* FindInTree(const K& key) const {
+    if (!key.HasText()) return sentinel_;
+    void* found = tfind(&key, &tree_, CompareKeys);
+    if (!found) return sentinel_;
+    // The key is the node's first member.
+    static_assert(std::is_standard_layout_v<Node>);
+    return static_cast<Node*>(*static_cast<void**>(found));
+  }
+
+  // The first time also all nodes there are. False when memory is short.
+  bool AddToTree(Node* node) {
+    for (Node* other = tree_ ? sentinel_ : begin_; other != sentinel_;
+         other = other->next) {
+      if (tsearch(&other->key, &tree_, CompareKeys)) continue;
+      DropTree();  // one that lacks a node is worse than none
+      return false;
+    }
+    return tsearch(&node->key, &tree_, CompareKeys) != nullptr;
+  }
+
+  void DropTree() {
+    tdestroy(std::exchange(tree_, nullptr), [](void*) {});
+  }
+
+  void* tree_ = nullptr;
+  unsigned int count_ = 0;
   Node* sentinel_ = nullptr;
   Node* begin_ = nullptr;
   Node** buckets_ = nullptr;

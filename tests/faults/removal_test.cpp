@@ -26,7 +26,7 @@ namespace {
 // How often to remove under attack: REMOVALS for a long run by hand.
 int RemovalCount() {
   const char* wanted = std::getenv("REMOVALS");
-  return wanted ? std::atoi(wanted) : 1000;
+  return wanted ? std::atoi(wanted) : 500;
 }
 
 // The number of descriptors a removal may need, whatever the tree.
