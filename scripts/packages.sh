@@ -41,15 +41,16 @@ test_packages=(
   desktop-file-utils
   jq
   libatk-adaptor
+  libgail-common
   libgmock-dev
   libgtest-dev
+  libxtst-dev
   lintian
   locales
   man-db
   openbox
-  python3-pyatspi
+  python3
   shellcheck
-  xdotool
 )
 
 # Prints those of the named packages that are not installed.
