@@ -232,6 +232,11 @@ DIR* opendir(const char* path) {
   return Fails(faults::kOpendir) ? nullptr : next(path);
 }
 
+DIR* fdopendir(int directory) {
+  static auto* next = Next<DIR*(int)>("fdopendir");
+  return Fails(faults::kOpendir) ? nullptr : next(directory);
+}
+
 dirent* readdir(DIR* directory) {
   static auto* next = Next<dirent*(DIR*)>("readdir");
   return Fails(faults::kReaddir) ? nullptr : next(directory);

@@ -5,19 +5,17 @@
 #include <signal.h>
 #include <sys/ioctl.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
-#include <limits>
 
 #include "platform/file_descriptor.h"
-#include "platform/linux_file_manager.h"
 #include "store/settings_manager.h"
-#include "tests/support/temporary_home.h"
+#include "tests/support/home_file_manager.h"
+#include "tests/support/privileges.h"
 
 namespace fs = std::filesystem;
 
@@ -34,22 +32,15 @@ constexpr rlim_t kFewDescriptors = 64;
 
 class Removal : public testing::Test {
  protected:
-  Removal() {
-    getrlimit(RLIMIT_NOFILE, &former_limit_);
-    const rlimit few = {kFewDescriptors, former_limit_.rlim_max};
-    setrlimit(RLIMIT_NOFILE, &few);
-  }
-  ~Removal() override { setrlimit(RLIMIT_NOFILE, &former_limit_); }
-
   [[nodiscard]] bool Remove(const std::string& name) {
     return files_.RemoveFileAtPath((home_ / name).c_str());
   }
 
   TemporaryHome home_;
-  LinuxFileManager files_;
+  HomeFileManager files_{home_};
 
  private:
-  rlimit former_limit_ = {};
+  const LoweredLimit limit_{RLIMIT_NOFILE, kFewDescriptors};
 };
 
 // Exchanges directories of the tree "t" with links to the precious directory,
@@ -184,21 +175,11 @@ TEST_F(Removal, LeavesAMountWhereItIs) {
 TEST_F(Removal, PassesOverWhatCannotBeRead) {
   home_.Write("t/closed/file", "");
   home_.Write("t/other/file", "");
+  const OrdinaryUser user(home_);
   fs::permissions(home_ / "t/closed", fs::perms::none);
-  ASSERT_EQ(system(("chown -R nobody '" + home_.Path().string() + "'").c_str()),
-            0);
-  const pid_t child = fork();
-  if (child == 0) {
-    // Nothing is closed to root.
-    if (geteuid() == 0 && setuid(65534) != 0) _exit(2);
-    testing::internal::CaptureStderr();
-    const bool removed = Remove("t");
-    const std::string messages = testing::internal::GetCapturedStderr();
-    _exit(removed && messages.empty() ? 0 : 1);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
+  testing::internal::CaptureStderr();
+  EXPECT_TRUE(Remove("t"));
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   EXPECT_TRUE(home_.Has("t/closed"));
   EXPECT_FALSE(home_.Has("t/other"));
 }
