@@ -13,7 +13,7 @@ namespace {
 
 // Directories kept open at once. A tree this deep is walked without ever
 // opening a directory twice.
-constexpr unsigned int kMostOpenDirectories = 32;
+constexpr unsigned int kMostOpenDirectories = 512;
 
 bool IsSelfOrParent(const char* name) {
   return name[0] == '.' && (!name[1] || (name[1] == '.' && !name[2]));
@@ -115,7 +115,8 @@ bool DirectoryWalk::Push(const char* name, const Subdirectory& subdirectory) {
   (top_ ? top_->child : first_) = level;
   top_ = level;
   if (!level->directory.IsOpen()) return true;
-  if (++open_count_ > kMostOpenDirectories) (void)CloseFarthest();
+  if (++open_count_ == 1) farthest_open_ = level;
+  if (open_count_ > kMostOpenDirectories) (void)CloseFarthest();
   ReadTop();
   return true;
 }
@@ -189,14 +190,14 @@ void DirectoryWalk::VisitBatch(std::size_t size) {
 // are always the last of the path. False when there is only one left.
 bool DirectoryWalk::CloseFarthest() {
   if (open_count_ < 2) return false;
-  Level* farthest = top_;
-  // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): two are open.
-  for (Level* level = top_->parent; level && level->directory.IsOpen();
-       level = level->parent) {
-    farthest = level;
+  Level* farthest = farthest_open_;
+  farthest->closed = farthest->subdirectory.identity;
+  if (farthest->closed == FileIdentity() &&
+      !Identify(farthest->directory.Get(), &farthest->closed)) {
+    return false;
   }
-  if (!Identify(farthest->directory.Get(), &farthest->closed)) return false;
   farthest->directory = FileDescriptor();
+  farthest_open_ = farthest->child;
   --open_count_;
   return true;
 }
@@ -210,6 +211,7 @@ bool DirectoryWalk::OpenParentOfTop() {
   if (!IsDirectory(found, parent->closed)) found = OpenFromPath(*parent);
   if (!IsDirectory(found, parent->closed)) return false;
   parent->directory = std::move(found);
+  farthest_open_ = parent;
   ++open_count_;
   return true;
 }

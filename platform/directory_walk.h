@@ -97,6 +97,8 @@ class DirectoryWalk {
   // The levels from the start of the walk to where it is.
   Level* first_ = nullptr;
   Level* top_ = nullptr;
+  // The open ones are always the last: from this one to the top.
+  Level* farthest_open_ = nullptr;
   unsigned int open_count_ = 0;
   alignas(dirent64) unsigned char batch_[32768];
 };
