@@ -4,9 +4,9 @@
 #include <unistd.h>
 
 #include <memory>
-#include <utility>
 
 #include "bench/bare_calls.h"
+#include "bench/fresh_store.h"
 #include "bench/harness.h"
 #include "bench/private_home.h"
 #include "model/permission_setting.h"
@@ -57,8 +57,7 @@ void Replace(sqlite3_stmt* replace, const char* key, int value) {
 
 // The store on what is now in the home directory, all of it loaded.
 void StartAgain(const PrivateHome& home) {
-  delete std::exchange(SettingBase::mSettingsManager, nullptr);
-  (void)SettingBase("", "");
+  OpenFreshStore();
   for (const std::string& site : home.Sites()) {
     SettingBase::mSettingsManager->EnsureSettingsAreLoadedForDomain(
         site.c_str());

@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "bench/bare_calls.h"
+#include "bench/fresh_store.h"
 #include "bench/harness.h"
 #include "bench/private_home.h"
-#include "model/setting_base.h"
 #include "settings/settings_aggregator.h"
 #include "settings/settings_reader.h"
 #include "settings/settings_writer.h"
@@ -313,7 +313,7 @@ void MeasureTypicalFile(const PrivateHome& home) {
 int main() {
   PrivateHome home;
   home.MakeSites(1, false);
-  (void)SettingBase("", "");
+  OpenFreshStore();
   SettingsManager* manager = SettingBase::mSettingsManager;
   MeasureTypicalFile(home);
   StoreEntries(manager);

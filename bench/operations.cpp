@@ -7,11 +7,11 @@
 #include <cstdio>
 #include <cstring>
 
+#include "bench/fresh_store.h"
 #include "bench/harness.h"
 #include "bench/panel_window.h"
 #include "bench/private_home.h"
 #include "model/permission_setting.h"
-#include "platform/linux_file_manager.h"
 
 namespace {
 
@@ -57,7 +57,7 @@ std::string g_tree;
 
 void NoPreparation(PrivateHome*, std::size_t) {}
 
-void StartStore(PrivateHome*, std::size_t) { (void)SettingBase("", ""); }
+void StartStore(PrivateHome*, std::size_t) { OpenFreshStore(); }
 
 void ReadSites(const PrivateHome& home, std::size_t times) {
   for (std::size_t i = 0; i < times; ++i) {

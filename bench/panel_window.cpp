@@ -1,13 +1,12 @@
 #include "bench/panel_window.h"
 
-#include <utility>
-
 #include "app/icons.h"
 #include "app/list_presentation.h"
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/start_up.h"
 #include "app/ui_definition.h"
+#include "bench/fresh_store.h"
 #include "bench/harness.h"
 #include "store/setting_keys.h"
 
@@ -33,12 +32,11 @@ GnomeTCCapplet* StartWithoutStore(int* argc, char*** argv) {
 }
 
 void OpenStore(GnomeTCCapplet* panel) {
-  delete std::exchange(SettingBase::mSettingsManager, nullptr);
+  OpenFreshStore();
   if (!panel->p2p_uplink) {
     panel->p2p_uplink = new SettingBase(SASM::kDisallowP2PUplink,
                                         SASM::SettingsManager::MasterDomain());
   }
-  (void)SettingBase("", "");
   panel->settings = SettingBase::mSettingsManager;
 }
 

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 #include "app/list_sorting.h"
 #include "bench/bare_calls.h"
+#include "bench/fresh_store.h"
 #include "bench/harness.h"
 #include "bench/panel_window.h"
 #include "bench/private_home.h"
@@ -185,7 +185,7 @@ void MeasureMemory(GnomeTCCapplet* panel, const PrivateHome& home) {
     RunToIdle();
   };
   const auto empty_all = [panel] {
-    delete std::exchange(SettingBase::mSettingsManager, nullptr);
+    CloseStore();
     for (const SitePermissionMode mode : kModes) {
       gtk_list_store_clear(FindList(panel, mode).store);
     }
