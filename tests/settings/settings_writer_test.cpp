@@ -12,7 +12,6 @@ using namespace image;
 using SASM::SDIVector;
 using SASM::SettingDataItem;
 using SASM::SimpleString;
-using SMImplementation::SettingsAggregator;
 
 class SettingsWriter : public testing::Test {
  protected:
@@ -80,34 +79,6 @@ TEST_F(SettingsWriter, CutsTextsThatAreTooLong) {
   const std::string text(70000, 't');
   Set({"k", new SimpleString(text.c_str())});
   EXPECT_EQ(Image("n"), File("n", Entry("k", String(text.substr(0, 65535)))));
-}
-
-TEST(SettingsAggregator, DoublesBeforeItIsFull) {
-  const struct {
-    unsigned long initial;
-    unsigned long first;
-    unsigned long second;
-    unsigned long capacity;
-  } cases[] = {{0, 1023, 0, 1024},      {1024, 1023, 1, 2048},
-               {1023, 1024, 0, 2048},   {1500, 1499, 0, 1500},
-               {1500, 1000, 500, 3000}, {1024, 5, 9000, 16384}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.capacity);
-    SettingsAggregator buffer(c.initial);
-    std::vector<unsigned char> data(9000);
-    for (std::size_t i = 0; i < data.size(); ++i) {
-      data[i] = static_cast<unsigned char>(i % 251);
-    }
-    buffer.AppendData(data.data(), c.first);
-    buffer.AppendData(data.data(), c.second);
-    ASSERT_EQ(buffer.Size(), c.first + c.second);
-    std::vector<unsigned char> got(20000);
-    // It never gives more than its capacity.
-    EXPECT_EQ(buffer.GetData(got.size(), got.data()), c.capacity);
-    EXPECT_TRUE(std::equal(data.begin(), data.begin() + c.first, got.begin()));
-    EXPECT_TRUE(std::equal(data.begin(), data.begin() + c.second,
-                           got.begin() + c.first));
-  }
 }
 
 }  // namespace
