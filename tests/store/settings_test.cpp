@@ -11,12 +11,10 @@ using testing::IsEmpty;
 namespace fs = std::filesystem;
 
 using MasterSettings = StoreTest;
+using SiteSettings = StoreTest;
 
 TEST_F(MasterSettings, AreWrittenAtTheFirstStart) {
-  int writes = 0;
-  files_.before_removal = [&](const std::string&) { return ++writes; };
   Start();
-  EXPECT_EQ(writes, 3);
   EXPECT_EQ(Master(), DefaultMasterFile());
   std::vector<std::string> chain;
   for (fs::path path = TemporaryHome::MasterFile(); !path.empty();
@@ -47,31 +45,6 @@ TEST_F(MasterSettings, KeepWhatIsThereAndFillInTheRest) {
             "defaultklimit='no number'");
 }
 
-TEST_F(MasterSettings, ReplaceAFileThatCannotBeUsed) {
-  const std::string file = home_ / TemporaryHome::MasterFile();
-  const struct {
-    const char* what;
-    std::function<void()> put;
-  } cases[] = {
-      {"empty", [&] { home_.Write(TemporaryHome::MasterFile(), ""); }},
-      {"garbage", [&] { home_.Write(TemporaryHome::MasterFile(), "garbage"); }},
-      {"cut off", [&] { WriteMaster(Text("a") + Hex("03")); }},
-      {"a directory", [&] { fs::create_directories(file + "/x"); }},
-      {"a pipe nobody writes to", [&] { mkfifo(file.c_str(), 0600); }},
-      {"a link to nothing", [&] { fs::create_symlink("none", file); }},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.what);
-    fs::create_directories(fs::path(file).parent_path());
-    c.put();
-    testing::internal::CaptureStderr();
-    Start();
-    (void)testing::internal::GetCapturedStderr();  // the reader's
-    EXPECT_EQ(Master(), DefaultMasterFile());
-    fs::remove(file);
-  }
-}
-
 TEST_F(MasterSettings, StartWithWhateverOneByteIsMade) {
   Begin({"a.example"});
   const std::string whole = Master();
@@ -84,6 +57,11 @@ TEST_F(MasterSettings, StartWithWhateverOneByteIsMade) {
     ASSERT_NE(manager_->GetDomains(), nullptr) << i;
     ASSERT_NE(Held("autoUpdateInterval"), "none") << i;
     ASSERT_NE(Describe(Master()), "rejected") << i;
+  }
+  for (const char* unusable : {"", "garbage"}) {
+    home_.Write(TemporaryHome::MasterFile(), unusable);
+    Start();
+    EXPECT_EQ(Master(), DefaultMasterFile());
   }
   (void)testing::internal::GetCapturedStderr();
 }
@@ -111,12 +89,8 @@ TEST_F(MasterSettings, GetAListOfDomainsInPlaceOfAnythingElse) {
     EXPECT_THAT(Listed(), IsEmpty());
     EXPECT_THAT(ListedOnDisk(), IsEmpty());
   }
-  // Lost while the panel runs.
   EXPECT_TRUE(SetNumber("domains", 1, "___MASTER_DOMAIN"));
-  EXPECT_THAT(Listed(), IsEmpty());
-  EXPECT_TRUE(manager_->RemoveSettingWithKey(
-      "domains", SASM::SettingsManager::MasterDomain()));
-  EXPECT_THAT(Listed(), IsEmpty());
+  EXPECT_THAT(Listed(), IsEmpty()) << "lost while the panel runs";
 }
 
 TEST_F(MasterSettings, DropSitesWithoutAFileFromMemoryOnly) {
@@ -130,32 +104,26 @@ TEST_F(MasterSettings, DropSitesWithoutAFileFromMemoryOnly) {
   EXPECT_THAT(ListedOnDisk(), ElementsAre("b", "d"));
 }
 
-TEST_F(MasterSettings, FindTheLocalStorageAtTheStart) {
+TEST_F(MasterSettings, GoWithTheFirstLocalStorageInNaturalOrder) {
   const std::string root = TemporaryHome::kSharedObjects;
-  const struct {
-    std::vector<const char*> entries;
-    const char* chosen;
-  } cases[] = {{{}, "/site"}, {{"/10/x", "/2/x"}, "/2/site"}};
-  for (const auto& c : cases) {
-    for (const char* entry : c.entries) home_.Write(root + entry, "");
-    Start();
-    home_.Write(root + c.chosen + "/data", "x");
-    EXPECT_GT(manager_->SizeOfLocalStorage("site"), 1u) << c.chosen;
-    fs::remove_all(home_ / root);
-    EXPECT_EQ(manager_->SizeOfLocalStorage("site"), 0u);
-    fs::create_directories(home_ / root);
-  }
+  Start();
+  home_.Write(root + "/site/data", "");
+  EXPECT_TRUE(manager_->DeleteDomainStorage("site"));
+  EXPECT_FALSE(home_.Has(root + "/site")) << "there was none at the start";
+  home_.Write(root + "/10/x", "");
+  home_.Write(root + "/2/site/data", "");
+  Start();
+  EXPECT_TRUE(manager_->DeleteDomainStorage("site"));
+  EXPECT_FALSE(home_.Has(root + "/2/site"));
 }
 
 TEST_F(MasterSettings, LiveInMemoryWithoutAHome) {
-  home_.Write("before", "");
   const NoHome none;
   testing::internal::CaptureStderr();
   LinuxFileManager homeless;
   SASM::SettingsManager manager(&homeless);
   EXPECT_TRUE(manager.AddDomainWithDefaultSettings("site"));
   EXPECT_TRUE(manager.HasSetting("klimit", "site"));
-  EXPECT_THAT(NamesOf(*manager.GetDomains()), ElementsAre("site"));
   EXPECT_EQ(manager.SizeOfSettings("site"), 0u);
   EXPECT_EQ(manager.SizeOfLocalStorage("site"), 0u);
   EXPECT_TRUE(manager.RemoveDomainInformation("site", true, true));
@@ -163,10 +131,75 @@ TEST_F(MasterSettings, LiveInMemoryWithoutAHome) {
   EXPECT_TRUE(manager.RemoveAllSettingsAndOrLocalStorageForTimeRange(
       true, true, 0, 1UL << 40));
   EXPECT_TRUE(manager.RemoveAssetCache());
-  EXPECT_EQ(image::NamesOf(*manager.GetDomains()).size(), 0u);
   EXPECT_THAT(testing::internal::GetCapturedStderr(),
-              testing::HasSubstr("There is no home directory"));
-  EXPECT_THAT(home_.List(), ElementsAre("before"));
+              testing::HasSubstr("There is no home directory for \"~/"));
+  EXPECT_THAT(home_.List(), IsEmpty());
+}
+
+TEST_F(SiteSettings, GetAFileWhenTheyAreOnlyAskedFor) {
+  Start();
+  EXPECT_FALSE(manager_->HasSetting("klimit", "new.example"));
+  EXPECT_EQ(SiteFile("new.example"), File("new.example/settings"));
+  EXPECT_THAT(Listed(), IsEmpty());
+
+  home_.Write(TemporaryHome::SettingsFileOf("broken"), "garbage");
+  EXPECT_EQ(Held("klimit", "broken"), "none");
+  EXPECT_EQ(SiteFile("broken"), File("broken/settings"));
+}
+
+TEST_F(SiteSettings, AreWrittenWithEveryChange) {
+  Begin({"a"});
+  EXPECT_TRUE(SetNumber("klimit", 5, "a"));
+  EXPECT_EQ(SiteOnDisk("a"),
+            "p2pallow=false always=false p2palways=false klimit=5 "
+            "allow=false");
+  // In bucket 1: behind "p2pallow", before "p2palways".
+  for (const char* key : {"always", "no such key"}) {
+    home_.Write(TemporaryHome::SettingsFileOf("a"), "");
+    EXPECT_TRUE(manager_->RemoveSettingWithKey(key, "a"));
+    EXPECT_EQ(SiteOnDisk("a"),
+              "p2pallow=false p2palways=false klimit=5 allow=false");
+  }
+  EXPECT_EQ(Held("p2pallow", "a"), "p2pallow=false");
+}
+
+TEST_F(SiteSettings, OfANewSiteFollowTheMasterSettings) {
+  const struct {
+    Bytes limit;
+    Bytes always;
+    std::string site;
+  } cases[] = {
+      {Entry("defaultklimit", Number(7)), Entry("defaultalways", Bool(1)),
+       "always=true p2pallow=false p2palways=false klimit=7 allow=false"},
+      {Entry("defaultklimit", Bool(1)), Entry("defaultalways", Number(1)),
+       "always=false p2pallow=false p2palways=false klimit=100 allow=false"},
+      {"", "",
+       "always=false p2pallow=false p2palways=false klimit=100 allow=false"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.site);
+    fs::remove_all(home_ / TemporaryHome::kSettings);
+    WriteMaster(c.limit + c.always);
+    Start();
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("a"));
+    EXPECT_EQ(SiteOnDisk("a"), c.site);
+    EXPECT_THAT(ListedOnDisk(), ElementsAre("a"));
+  }
+}
+
+TEST_F(SiteSettings, ThatAreThereStayWhenTheSiteIsAdded) {
+  Begin({"listed"});
+  home_.Write(TemporaryHome::SettingsFileOf("known"),
+              File("n", Entry("klimit", Number(5)) + Entry("x", Bool(1))));
+  EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("known"));
+  EXPECT_THAT(SiteOnDisk("known"), testing::HasSubstr("klimit=5 "));
+  EXPECT_THAT(SiteOnDisk("known"), testing::HasSubstr(" allow=false"));
+
+  home_.Write(TemporaryHome::SettingsFileOf("listed"), "untouched");
+  home_.Write(TemporaryHome::MasterFile(), "untouched");
+  EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("listed"));
+  EXPECT_EQ(SiteFile("listed"), "untouched");
+  EXPECT_EQ(Master(), "untouched");
 }
 
 }  // namespace
