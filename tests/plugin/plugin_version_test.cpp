@@ -1,6 +1,5 @@
 #include "plugin/plugin_version.h"
 
-#include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -73,8 +72,6 @@ TEST_F(PluginVersion, TellsWhatEachKindOfLibraryAnswers) {
     EXPECT_STREQ(get_plugin_version(), c.version);
     const char* version = "unset";
     EXPECT_EQ(FindPluginVersion(&version), c.state);
-    const bool is_installed = c.state == PluginState::kInstalled;
-    EXPECT_STREQ(version, is_installed ? c.version : nullptr);
   }
 }
 
@@ -120,42 +117,14 @@ TEST_F(PluginVersion, TriesOneCandidateADirectory) {
     const char* version = nullptr;
     EXPECT_EQ(FindPluginVersion(&version), PluginState::kNotInstalled);
   }
-  EXPECT_NE(dlerror(), nullptr) << "the reason of the last attempt";
-  Search("~/text:~/directory");
-  EXPECT_EQ(get_plugin_version(), nullptr);
-  EXPECT_EQ(dlerror(), nullptr) << "an earlier attempt's reason";
-  Install("good", "good/corvaneplayer.so");
+  Install("good", "library");
+  fs::create_directory(home_ / "good");
+  fs::create_symlink("../library", home_ / "good/corvaneplayer.so");
   Search("~/text:~/directory:~/pipe:~/good");
   EXPECT_STREQ(get_plugin_version(), kGood);
-  // Whichever of two the system lists first is the only one.
-  home_.Write("two/1-corvaneplayer.so", "not a library");
-  Install("other", "two/2-corvaneplayer.so");
-  const std::string first = fs::directory_iterator(home_ / "two")->path();
-  Search("~/two");
-  EXPECT_STREQ(get_plugin_version(),
-               first.ends_with("2-corvaneplayer.so") ? kOther : nullptr);
 }
 
-TEST_F(PluginVersion, FollowsLinksToALibrary) {
-  Install("good", "real/library");
-  fs::create_directory(home_ / "links");
-  fs::create_symlink("../real/library", home_ / "links/corvaneplayer.so");
-  Search("~/links");
-  EXPECT_STREQ(get_plugin_version(), kGood);
-}
-
-TEST_F(PluginVersion, AsksLocateLast) {
-  Install("good", "found/corvaneplayer.so");
-  MakeLocate("echo \"$# $1\" >~/asked; echo ~/found/corvaneplayer.so; echo x");
-  EXPECT_STREQ(get_plugin_version(), kGood);
-  EXPECT_EQ(home_.Read("asked"), "1 corvaneplayer.so\n");
-  fs::remove(home_ / "asked");
-  Install("other", ".mozilla/plugins/corvaneplayer.so");
-  EXPECT_STREQ(get_plugin_version(), kOther);
-  EXPECT_FALSE(home_.Has("asked"));
-}
-
-TEST_F(PluginVersion, TakesOnlyAFileFromLocatesFirstLine) {
+TEST_F(PluginVersion, AsksLocateLastAndTakesOnlyAFileFromItsFirstLine) {
   Install("good", "corvaneplayer.so");
   const std::string library = home_ / "corvaneplayer.so";
   const std::string long_path =
@@ -165,30 +134,30 @@ TEST_F(PluginVersion, TakesOnlyAFileFromLocatesFirstLine) {
     std::string body;
     const char* version;
   } cases[] = {
+      {"asked for", "test \"$#$1\" = 1corvaneplayer.so && echo " + library,
+       kGood},
       {"without a line end", "printf %s " + library, kGood},
       {"second line", "echo /missing; echo " + library, nullptr},
-      {"empty line first", "echo; echo " + library, nullptr},
       {"nothing", "exit 1", nullptr},
       {"a directory", "echo ~", nullptr},
+      {"a name that the loader would search for", "echo libc.so.6", nullptr},
       {"over 1023 bytes", "echo " + long_path, nullptr},
       {"never-ending", "while echo " + library + "; do :; done", kGood},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.what);
-    MakeLocate(c.body);
-    EXPECT_STREQ(get_plugin_version(), c.version);
-  }
-}
-
-// The loader would find the system's library of that name.
-TEST_F(PluginVersion, RefusesANameWithoutADirectory) {
   home_.Write("libc.so.6", "not a library");
   const fs::path former = fs::current_path();
   fs::current_path(home_.Path());
-  MakeLocate("echo libc.so.6");
-  const char* version = nullptr;
-  EXPECT_EQ(FindPluginVersion(&version), PluginState::kNotInstalled);
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    MakeLocate(c.body);
+    const char* version = nullptr;
+    EXPECT_EQ(FindPluginVersion(&version) == PluginState::kNotInstalled,
+              c.version == nullptr);
+    EXPECT_STREQ(version, c.version);
+  }
   fs::current_path(former);
+  Install("other", ".mozilla/plugins/corvaneplayer.so");
+  EXPECT_STREQ(get_plugin_version(), kOther);
 }
 
 TEST_F(PluginVersion, StaysSilentAndReleasesEverything) {
@@ -198,7 +167,6 @@ TEST_F(PluginVersion, StaysSilentAndReleasesEverything) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   Search("~/bad:(:~/missing");
-  EXPECT_EQ(get_plugin_version(), nullptr) << "no command";
   MakeLocate("echo no database >&2; exit 1");
   EXPECT_EQ(get_plugin_version(), nullptr);
   Search("~/good");
