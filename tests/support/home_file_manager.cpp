@@ -12,12 +12,6 @@ bool HomeFileManager::RemoveFileAtPath(const SimpleString& path) {
   return LinuxFileManager::RemoveFileAtPath(path);
 }
 
-bool HomeFileManager::CreateDirectoryAtPath(const SimpleString& path,
-                                            const SimpleString& name) {
-  if (before_creation && !before_creation(path.c_str())) return false;
-  return LinuxFileManager::CreateDirectoryAtPath(path, name);
-}
-
 const SimpleString& HomeFileManager::GetAssetCacheDirectory() const {
   return asset_cache_;
 }
