@@ -2,7 +2,6 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <pthread.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,6 +12,7 @@
 
 #include "platform/file_descriptor.h"
 #include "tests/support/home_file_manager.h"
+#include "tests/support/privileges.h"
 
 namespace {
 
@@ -80,10 +80,7 @@ void WithLittle(std::function<void()> action) {
     (*static_cast<std::function<void()>*>(argument))();
     return nullptr;
   };
-  rlimit former = {};
-  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);
-  const rlimit few = {12, former.rlim_max};
-  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+  const LoweredLimit few(RLIMIT_NOFILE, 12);
   pthread_attr_t attributes;
   pthread_t thread;
   ASSERT_EQ(pthread_attr_init(&attributes), 0);
@@ -91,7 +88,6 @@ void WithLittle(std::function<void()> action) {
   ASSERT_EQ(pthread_create(&thread, &attributes, call, &action), 0);
   ASSERT_EQ(pthread_join(thread, nullptr), 0);
   pthread_attr_destroy(&attributes);
-  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &former), 0);
 }
 
 TEST_F(Tree, IsRemovedWithItsLinksAsLinks) {

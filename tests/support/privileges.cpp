@@ -5,6 +5,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 
 namespace {
@@ -34,6 +35,17 @@ OrdinaryUser::OrdinaryUser(const TemporaryHome& home)
 OrdinaryUser::~OrdinaryUser() {
   if (!was_root_) return;
   EXPECT_EQ(seteuid(0), 0);
+}
+
+LoweredLimit::LoweredLimit(int resource, rlim_t limit) : resource_(resource) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  EXPECT_EQ(getrlimit(static_cast<__rlimit_resource>(resource_), &former_), 0);
+  const rlimit lowered = {limit, former_.rlim_max};
+  EXPECT_EQ(setrlimit(static_cast<__rlimit_resource>(resource_), &lowered), 0);
+}
+
+LoweredLimit::~LoweredLimit() {
+  EXPECT_EQ(setrlimit(static_cast<__rlimit_resource>(resource_), &former_), 0);
 }
 
 NoHome::NoHome() {

@@ -1,6 +1,8 @@
 // What the user who runs the tests may do, for a while.
 #pragma once
 
+#include <sys/resource.h>
+
 #include "tests/support/temporary_home.h"
 
 // Takes the rights of root away, where the tests have them, so that modes of
@@ -14,6 +16,20 @@ class OrdinaryUser {
 
  private:
   bool was_root_;
+};
+
+// Lowers a limit of the process. Going past that of file sizes is an error
+// of the write then, not the end of the process.
+class LoweredLimit {
+ public:
+  LoweredLimit(int resource, rlim_t limit);
+  ~LoweredLimit();
+  LoweredLimit(const LoweredLimit&) = delete;
+  LoweredLimit& operator=(const LoweredLimit&) = delete;
+
+ private:
+  int resource_;
+  rlimit former_;
 };
 
 // Makes the user one without a home: HOME is empty and the password database
