@@ -23,21 +23,31 @@ struct List {
   const char* remove_button;
   // Shows a choice for each row, null where there is none.
   const char* choice_column;
-  // What a screen reader calls the list: the title of its dialog.
-  int name_id;
 };
 
 constexpr List kLists[] = {
     {"site_storage_treeview", "site_storage_site_column",
      "cellrenderer_storage_website", "remove_site_storage_setting_button",
-     "site_storage_permission_column", 61009},
+     "site_storage_permission_column"},
     {"site_privacy_treeview", "site_privacy_site_column",
      "cellrenderer_website", "remove_site_privacy_setting_button",
-     "site_privacy_cam_and_mic_column", 61005},
+     "site_privacy_cam_and_mic_column"},
     {"site_p2p_treeview", "site_p2p_site_column", "p2p_cellrenderer_website3",
-     "remove_site_p2p_setting_button", "site_p2p_permission_column", 61007},
+     "remove_site_p2p_setting_button", "site_p2p_permission_column"},
     {"trusted_locations_treeview", "trusted_location_column",
-     "trusted_location", "remove_trusted_location_button", nullptr, 81000},
+     "trusted_location", "remove_trusted_location_button", nullptr},
+};
+
+// A list is called what its dialog is, an entry what its label says.
+struct AccessibleName {
+  const char* widget;
+  int string_id;
+};
+
+constexpr AccessibleName kAccessibleNames[] = {
+    {"site_storage_treeview", 61009},      {"site_privacy_treeview", 61005},
+    {"site_p2p_treeview", 61007},          {"new_site_entry", 91000},
+    {"trusted_locations_treeview", 81000}, {"trusted_location_entry", 84001},
 };
 
 void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
@@ -119,10 +129,7 @@ void prepare_lists(GnomeTCCapplet* panel) {
 }
 
 void set_accessible_names(GnomeTCCapplet* panel) {
-  for (const List& list : kLists) {
-    const char* name = text_or(panel, list.name_id, nullptr);
-    AtkObject* accessible =
-        gtk_widget_get_accessible(get_widget(panel->builder, list.tree_view));
-    if (name) atk_object_set_name(accessible, name);
+  for (const AccessibleName& row : kAccessibleNames) {
+    set_accessible_name(panel, row.widget, row.string_id);
   }
 }

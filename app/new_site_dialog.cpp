@@ -45,6 +45,7 @@ void AskForSite(GnomeTCCapplet* panel, SitePermissionMode mode) {
   set_combo_permission_enum(panel, kPermission, list.preset());
   set_label_text(panel, "new_site_permission_label", list.new_site_label,
                  nullptr, nullptr);
+  set_accessible_name(panel, kPermission, list.new_site_label);
   GtkWidget* entry = get_widget(panel->builder, kEntry);
   gtk_entry_set_text(GTK_ENTRY(entry), "");
   gtk_window_set_focus(GTK_WINDOW(get_widget(panel->builder, kDialog)), entry);

@@ -35,6 +35,9 @@ void set_label_text(GnomeTCCapplet* panel, const char* label_id, int string_id,
                     const char* fallback, const char* tag);
 void set_column_title(GnomeTCCapplet* panel, const char* column_id,
                       int string_id, const char* fallback);
+// What a screen reader calls a widget that shows no text of its own.
+void set_accessible_name(GnomeTCCapplet* panel, const char* widget_id,
+                         int string_id);
 // Nothing happens when there is no such text or row.
 void set_list_store_text(GnomeTCCapplet* panel, const char* store_id,
                          int column, int row, int string_id);
