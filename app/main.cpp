@@ -8,7 +8,8 @@ int main(int argc, char** argv) {
   // Without a display --help still answers, and everything else is told by
   // the command line's own message.
   (void)gtk_init_check(&argc, &argv);
-  GnomeTCCapplet* panel = new_panel();
+  // Known to the end, since it is never freed.
+  static GnomeTCCapplet* const panel = new_panel();
   char* page_name = nullptr;
   if (!parse_command_line(panel, &argc, &argv, &page_name)) {
     return EXIT_FAILURE;
