@@ -27,8 +27,8 @@ constexpr char kLicencesNotDeleted[] =
 class DataRemovalTest : public PanelTest {
  protected:
   DataRemovalTest() {
-    AddSites({"a.example", "b.example"});
-    stored_ = AddData("b.example", 10);
+    home_.AddSites({"a.example", "b.example"});
+    stored_ = home_.AddData("b.example", 10);
     home_.Write(kCache, "cached");
     home_.Write(kLicence, "licence");
   }
@@ -51,16 +51,17 @@ class DataRemovalTest : public PanelTest {
   void ExpectSites(bool exist) {
     EXPECT_EQ(home_.Has(stored_), exist);
     EXPECT_EQ(home_.Has(kCache), exist);
-    EXPECT_EQ(home_.Has(TemporaryHome::SettingsFileOf("a.example")), exist);
-    EXPECT_EQ(Stored(kMaster, SASM::kDomains),
+    EXPECT_EQ(home_.Has(PanelHome::SettingsFileOf("a.example")), exist);
+    EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains),
               exist ? "[a.example b.example]" : "[]");
     EXPECT_EQ(Column("site_storage_list", 0).size(), exist ? 2U : 0U);
-    EXPECT_EQ(Stored(kMaster, SASM::kDefaultStorageLimit), "100");
+    EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDefaultStorageLimit),
+              "100");
   }
 
   std::string stored_;
-  const std::string kCache = std::string(TemporaryHome::kAssetCache) + "/a/b";
-  const std::string kLicence = std::string(TemporaryHome::kLicences) + "/x/y";
+  const std::string kCache = std::string(PanelHome::kAssetCache) + "/a/b";
+  const std::string kLicence = std::string(PanelHome::kLicences) + "/x/y";
 };
 
 class BoxesTest : public DataRemovalTest,
@@ -69,15 +70,15 @@ class BoxesTest : public DataRemovalTest,
 TEST_P(BoxesTest, DeletesWhatIsChecked) {
   const auto [sites, licences] = GetParam();
   Start();
-  const auto before = Disk();
+  const auto before = home_.Disk();
   ClearData(sites, licences, GTK_RESPONSE_NONE);
   ClearData(sites, licences, GTK_RESPONSE_DELETE_EVENT);
-  EXPECT_EQ(Disk(), before);
+  EXPECT_EQ(home_.Disk(), before);
   ClearData(sites, licences, GTK_RESPONSE_OK);
   ExpectSites(!sites);
   EXPECT_EQ(home_.Has(kLicence), !licences);
   EXPECT_THAT(Errors(), IsEmpty());
-  EXPECT_EQ(Disk() == before, !sites && !licences);
+  EXPECT_EQ(home_.Disk() == before, !sites && !licences);
 }
 
 INSTANTIATE_TEST_SUITE_P(SitesAndLicences, BoxesTest,

@@ -16,22 +16,23 @@ using testing::ElementsAre;
 class GlobalPermissionsTest : public PanelTest {
  protected:
   GlobalPermissionsTest() {
-    AddSites({"a.example", "b.example"});
-    stored_data_ = AddData("b.example", 10);
+    home_.AddSites({"a.example", "b.example"});
+    stored_data_ = home_.AddData("b.example", 10);
   }
 
   void ExpectStorageLimits(const char* limit) {
-    EXPECT_EQ(Stored(kMaster, kDefaultStorageLimit), limit);
-    EXPECT_EQ(Stored("a.example", kStorageLimit), limit);
-    EXPECT_EQ(Stored("b.example", kStorageLimit), limit);
+    EXPECT_EQ(home_.Stored(PanelHome::kMaster, kDefaultStorageLimit), limit);
+    EXPECT_EQ(home_.Stored("a.example", kStorageLimit), limit);
+    EXPECT_EQ(home_.Stored("b.example", kStorageLimit), limit);
   }
 
   void ExpectCamera(const char* block_all, const char* always,
                     const char* allow) {
-    EXPECT_EQ(Stored(kMaster, kDefaultCameraAlways), block_all);
+    EXPECT_EQ(home_.Stored(PanelHome::kMaster, kDefaultCameraAlways),
+              block_all);
     for (const char* site : {"a.example", "b.example"}) {
-      EXPECT_EQ(Stored(site, kCameraAlways), always);
-      EXPECT_EQ(Stored(site, kCameraAllow), allow);
+      EXPECT_EQ(home_.Stored(site, kCameraAlways), always);
+      EXPECT_EQ(home_.Stored(site, kCameraAllow), allow);
     }
   }
 
@@ -52,14 +53,14 @@ TEST_F(GlobalPermissionsTest, StorageChoiceReachesEverySite) {
 TEST_F(GlobalPermissionsTest, BlockingStorageChangesNothingUnlessConfirmed) {
   Start();
   Choose("storage_prompt_radiobutton");
-  const auto before = Disk();
+  const auto before = home_.Disk();
   for (const int response :
        {GTK_RESPONSE_CANCEL, GTK_RESPONSE_DELETE_EVENT, GTK_RESPONSE_NONE}) {
     Answer("deny_all_storage_prompt_dialog", response,
            [&] { Choose("storage_block_radiobutton"); });
     EXPECT_TRUE(IsActive("storage_prompt_radiobutton"));
   }
-  EXPECT_EQ(Disk(), before);
+  EXPECT_EQ(home_.Disk(), before);
 }
 
 TEST_F(GlobalPermissionsTest, ConfirmedBlockDeletesDataOfEverySite) {
@@ -81,7 +82,7 @@ TEST_F(GlobalPermissionsTest, BlockingCamerasAndBackLeavesEverySiteAtAsk) {
   Select("site_privacy_treeview", {0});
   ChooseInList(kCameraAndMicMode,
                PermissionSetting::kPermissionStateAlwaysAllow);
-  EXPECT_EQ(Stored("a.example", kCameraAllow), "true");
+  EXPECT_EQ(home_.Stored("a.example", kCameraAllow), "true");
   Choose("site_privacy_always_ask_rbutton");
   ExpectCamera("false", "false", "false");
 }
@@ -99,12 +100,12 @@ TEST_F(GlobalPermissionsTest, BlockingPeersOverridesSitesWithoutChangingThem) {
   ChooseInList(kPeerAssistedMode,
                PermissionSetting::kPermissionStateAlwaysAllow);
   Choose("site_p2p_always_deny_rbutton");
-  EXPECT_EQ(Stored(kMaster, kDisallowP2PUplink), "true");
-  EXPECT_EQ(Stored("b.example", kP2PAlways), "true");
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, kDisallowP2PUplink), "true");
+  EXPECT_EQ(home_.Stored("b.example", kP2PAlways), "true");
   EXPECT_THAT(Column("site_p2p_list", 1), ElementsAre("Block", "Block"));
   expect_usable(false);
   Choose("site_p2p_always_ask_rbutton");
-  EXPECT_EQ(Stored(kMaster, kDisallowP2PUplink), "false");
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, kDisallowP2PUplink), "false");
   EXPECT_THAT(Column("site_p2p_list", 1), ElementsAre("Ask me", "Allow"));
   expect_usable(true);
 }

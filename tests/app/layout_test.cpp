@@ -1,5 +1,6 @@
 #include <clocale>
 #include <cstdlib>
+#include <utility>
 
 #include "app/dialogs.h"
 #include "app/widget_helpers.h"
@@ -102,7 +103,7 @@ void ExpectNothingClipped(GtkWidget* widget, gpointer) {
 class LayoutTest : public PanelTest,
                    public testing::WithParamInterface<LayoutCase> {
  protected:
-  LayoutTest() { AddSites({"example.com", "shop.example.com"}); }
+  LayoutTest() { home_.AddSites({"example.com", "shop.example.com"}); }
 
   // The toolkit takes its own texts from the locale when it starts.
   void Open(const char* theme) {
@@ -112,7 +113,7 @@ class LayoutTest : public PanelTest,
     }
     gtk_widget_set_default_direction(GetParam().direction);
     static FixedLanguage language(GetParam().language);
-    NewPanelForProcess()->strings = &language;
+    delete std::exchange(NewPanelForProcess()->strings, &language);
     Start();
   }
 

@@ -46,7 +46,7 @@ TEST_F(LoadTest, TenThousandSites) {
   for (int i = 0; i < 10000; ++i) {
     sites.push_back("s" + std::to_string(i) + ".example");
   }
-  AddSites(sites);
+  home_.AddSites(sites);
   Start();
   const SitePermission& list = kSitePermissions[kStorageMode];
   ShowList(list);
@@ -56,7 +56,7 @@ TEST_F(LoadTest, TenThousandSites) {
   ASSERT_EQ(Column(list.list_store, 0)[2], "s10.example");
   Select(list.tree_view, {0, 2, 9999});
   ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysAsk);
-  EXPECT_EQ(Stored("s10.example", "klimit"), "0");
+  EXPECT_EQ(home_.Stored("s10.example", "klimit"), "0");
   Select(list.tree_view, {2});
   Click(list.remove_button);
   sites.erase(sites.begin() + 10);
@@ -77,7 +77,7 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
                        "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d",
                        "%s%n",
                        std::string(254, 'w')};
-  AddSites(sites);
+  home_.AddSites(sites);
   Start();
   for (const int page : {kPlaybackPage, kPrivacyPage, kStoragePage}) {
     GoToPage(page);
@@ -89,31 +89,33 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
             "<b>&amp;</i>");
   Select("site_storage_treeview", {0, 1, 2, 3, 4, 5});
   ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysDeny);
-  for (const std::string& site : sites) EXPECT_EQ(Stored(site, "klimit"), "-1");
+  for (const std::string& site : sites)
+    EXPECT_EQ(home_.Stored(site, "klimit"), "-1");
   Select("site_storage_treeview", {0, 1, 3});
   Click("remove_site_storage_setting_button");
-  EXPECT_EQ(Stored(kMaster, SASM::kDomains),
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains),
             "[" + sites[2] + " " + sites[4] + " " + sites[5] + "]");
 }
 
 // The longest name that a settings file holds; no file can be named so.
 TEST_F(LoadTest, LongestNames) {
   const std::string longest(65535, 'W');
-  AddLocations({"/a", longest});
+  home_.AddLocations({"/a", longest});
   Start();
   Click("compat_settings_button");
   EXPECT_THAT(Column("trusted_locations", 0), ElementsAre("/a", longest));
   Select("trusted_locations_treeview", {0});
   Click("remove_trusted_location_button");
-  EXPECT_EQ(Stored(kMaster, SASM::kTrustedPaths), "[" + longest + "]");
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kTrustedPaths),
+            "[" + longest + "]");
   Select("trusted_locations_treeview", {0});
   Click("remove_trusted_location_button");
-  EXPECT_EQ(Stored(kMaster, SASM::kTrustedPaths), "[]");
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kTrustedPaths), "[]");
 
   ShowList(kSitePermissions[kStorageMode]);
   Click("add_site_storage_setting_button");
   Type("new_site_entry", longest);
   Settle();
   Click("new_site_add_button");
-  EXPECT_EQ(Stored(kMaster, SASM::kDomains), "[]");
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains), "[]");
 }

@@ -5,31 +5,19 @@
 
 #include <functional>
 #include <initializer_list>
-#include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "app/gnome_tcc_applet.h"
 #include "app/site_lists.h"
-#include "tests/support/temporary_home.h"
+#include "tests/support/panel_home.h"
 
 // Needs a process for each test: the panel's store is one for a process. Any
 // warning of the toolkit ends the test.
 class PanelTest : public ::testing::Test {
  protected:
-  using Names = std::vector<std::string>;
+  using Names = PanelHome::Names;
   using Steps = std::function<void()>;
-
-  // --- Before the start
-
-  // Known sites with default settings.
-  void AddSites(const Names& sites);
-  // A file in the site's local storage; its name from the home.
-  std::string AddData(const std::string& site, std::size_t bytes);
-  void AddLocations(const Names& locations);
-
-  // --- The panel
 
   void Start(const char* page_name = nullptr);
   void GoToPage(int page);
@@ -56,17 +44,7 @@ class PanelTest : public ::testing::Test {
   [[nodiscard]] static Names Errors();
   GtkWidget* Widget(const char* id);
 
-  // --- On disk
-
-  // The value under a key of a site, of the master file for kMaster: "true",
-  // "100", "[a b]" of the names in an array, "" when there is none.
-  [[nodiscard]] std::string Stored(const std::string& site, const char* key);
-  // Every file: its bytes, and when it was written.
-  [[nodiscard]] std::map<std::string, std::string> Disk();
-
-  static constexpr char kMaster[] = "";
-
-  TemporaryHome home_;
+  PanelHome home_;
   GnomeTCCapplet* panel_ = nullptr;
 };
 

@@ -71,8 +71,8 @@ class SiteListTest : public PanelTest,
  protected:
   SiteListTest() {
     const Names sites = {"shop.example.com", "a.example.org", "example.com"};
-    AddSites(sites);
-    for (const std::string& site : sites) data_[site] = AddData(site, 10);
+    home_.AddSites(sites);
+    for (const std::string& site : sites) data_[site] = home_.AddData(site, 10);
     Start(GetParam().page_name);
   }
 
@@ -82,7 +82,7 @@ class SiteListTest : public PanelTest,
   void ExpectStored(const std::string& site, PermissionState state) {
     SCOPED_TRACE(site);
     for (int i : {0, 1}) {
-      EXPECT_EQ(Stored(site, GetParam().keys[i]),
+      EXPECT_EQ(home_.Stored(site, GetParam().keys[i]),
                 GetParam().values[state - 1][i]);
     }
   }
@@ -114,9 +114,9 @@ TEST_P(SiteListTest, ChoiceReachesEverySelectedRow) {
               kWords[state - 1]);
     EXPECT_FALSE(IsSensitive(List().remove_button));
   }
-  EXPECT_EQ(Stored("a.example.org", "klimit"), "100");
-  EXPECT_EQ(Stored("a.example.org", "always"), "false");
-  EXPECT_EQ(Stored("a.example.org", "p2palways"), "false");
+  EXPECT_EQ(home_.Stored("a.example.org", "klimit"), "100");
+  EXPECT_EQ(home_.Stored("a.example.org", "always"), "false");
+  EXPECT_EQ(home_.Stored("a.example.org", "p2palways"), "false");
 }
 
 TEST_P(SiteListTest, AddsASiteOrChangesAKnownOne) {
@@ -131,7 +131,7 @@ TEST_P(SiteListTest, AddsASiteOrChangesAKnownOne) {
   AddSite("example.com", kBlock);
   EXPECT_THAT(Sites(), ElementsAre("shop.example.com", "a.example.org",
                                    "example.com", " New.Example"));
-  EXPECT_EQ(Stored(kMaster, kDomains),
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, kDomains),
             "[shop.example.com a.example.org example.com  New.Example]");
   ExpectStored(" New.Example", kAsk);
   ExpectStored("example.com", kBlock);
@@ -157,9 +157,9 @@ TEST_P(SiteListTest, RemovesSelectedSitesWithTheirData) {
   Select(List().tree_view, {0, 2});
   Click(List().remove_button);
   EXPECT_FALSE(IsSensitive(List().remove_button));
-  EXPECT_EQ(Stored(kMaster, kDomains), "[shop.example.com]");
+  EXPECT_EQ(home_.Stored(PanelHome::kMaster, kDomains), "[shop.example.com]");
   for (const char* site : {"example.com", "a.example.org"}) {
-    EXPECT_FALSE(home_.Has(TemporaryHome::SettingsFileOf(site)));
+    EXPECT_FALSE(home_.Has(PanelHome::SettingsFileOf(site)));
     EXPECT_FALSE(home_.Has(data_[site]));
   }
   for (const int page : {kStoragePage, kPrivacyPage, kPlaybackPage}) {
@@ -190,9 +190,9 @@ using StorageListTest = PanelTest;
 
 TEST_F(StorageListTest, SortsByBytesAndShowsNoneAfterBlock) {
   // The texts of the last two sort the other way round.
-  AddSites({"big", "empty", "small"});
-  AddData("big", 2 << 20);
-  AddData("small", 900 << 10);
+  home_.AddSites({"big", "empty", "small"});
+  home_.AddData("big", 2 << 20);
+  home_.AddData("small", 900 << 10);
   Start();
   gtk_tree_view_column_clicked(
       get_column(panel_->builder, "site_storage_used_column"));
@@ -203,7 +203,7 @@ TEST_F(StorageListTest, SortsByBytesAndShowsNoneAfterBlock) {
   EXPECT_THAT(Column("site_storage_list", 0),
               ElementsAre("big", "empty", "small"));
   EXPECT_EQ(Column("site_storage_list", 1)[0], "none");
-  EXPECT_EQ(Stored("big", "klimit"), "-1");
+  EXPECT_EQ(home_.Stored("big", "klimit"), "-1");
 }
 
 TEST(DomainOrder, ReadsComponentsFromTheLast) {

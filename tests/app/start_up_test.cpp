@@ -66,7 +66,7 @@ class PageNameTest : public PanelTest,
 
 // A page that the program does not start with is not filled before its turn.
 TEST_P(PageNameTest, ShowsAndFillsThatPageOnly) {
-  AddSites({"a.example"});
+  home_.AddSites({"a.example"});
   Start(GetParam().name);
   EXPECT_EQ(gtk_notebook_get_current_page(
                 GTK_NOTEBOOK(Widget("tessary_corvane_notebook"))),
@@ -100,19 +100,19 @@ INSTANTIATE_TEST_SUITE_P(
 using StartUpTest = PanelTest;
 
 TEST_F(StartUpTest, FillingPagesWritesNothing) {
-  AddSites({"a.example", "b.example"});
-  AddLocations({"/srv/media"});
+  home_.AddSites({"a.example", "b.example"});
+  home_.AddLocations({"/srv/media"});
   Start();
   Choose("storage_prompt_radiobutton");
   GoToPage(kPrivacyPage);
   Choose("site_privacy_always_deny_rbutton");
   GoToPage(kPlaybackPage);
   Choose("site_p2p_always_deny_rbutton");
-  const auto before = Disk();
+  const auto before = home_.Disk();
   for (const int page : {0, 1, 2, 3, 0, 3, 1, 2}) GoToPage(page);
   update_notebook_page(panel_, kCurrentPage);
   Settle();
-  EXPECT_EQ(Disk(), before);
+  EXPECT_EQ(home_.Disk(), before);
 }
 
 TEST_F(StartUpTest, PreparesLinksListsAndChoices) {

@@ -10,13 +10,15 @@ using testing::IsEmpty;
 class TrustedLocationsTest : public PanelTest {
  protected:
   void Open(const Names& locations) {
-    AddLocations(locations);
+    home_.AddLocations(locations);
     Start("advanced");
     Click("compat_settings_button");
   }
 
   Names Shown() { return Column("trusted_locations", 0); }
-  std::string StoredLocations() { return Stored(kMaster, SASM::kTrustedPaths); }
+  std::string StoredLocations() {
+    return home_.Stored(PanelHome::kMaster, SASM::kTrustedPaths);
+  }
 
   void Add(const char* button, const std::string& path) {
     AnswerFileChooser(path, [&] { Click(button); });
