@@ -21,8 +21,9 @@ struct FileImage {
 // be read whole. Opens for reading only and never waits for a writer.
 [[nodiscard]] bool ReadFileImage(const SimpleString& path, FileImage* image);
 
-// Far above what a player ever wrote, low enough to be held in memory.
-inline constexpr std::size_t kLargestSettingsFile = std::size_t{256} << 20;
+// Far above what a player ever wrote, low enough that a file of the worst kind,
+// which takes thirty-six times its size, can be held in memory.
+inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 
 // The dictionary in a settings file, owned by the caller; null when there is
 // no image or the reader rejects it, or when memory is short, which

@@ -140,7 +140,7 @@ TEST_F(Removal, GoesAroundWhatCannotBeRemoved) {
   home_.Write("t/fixed/file", "");
   home_.Write("t/other/file", "");
   const int file = open((home_ / "t/fixed/file").c_str(), O_RDONLY);
-  int flags = FS_IMMUTABLE_FL;
+  long flags = FS_IMMUTABLE_FL;
   if (ioctl(file, FS_IOC_SETFLAGS, &flags) != 0) {
     close(file);
     GTEST_SKIP() << "files cannot be made immutable here";
