@@ -55,8 +55,9 @@ bool TreeRemoval::Remove(const SimpleString& path,
       (unlinkat(AT_FDCWD, name.get(), 0) == 0 || errno == ENOENT)) {
     return true;
   }
+  const bool is_directory = !predicate_ && errno == EISDIR;
   Subdirectory top;
-  if (VisitEntry(AT_FDCWD, name.get(), DT_UNKNOWN, &top)) {
+  if (is_directory || VisitEntry(AT_FDCWD, name.get(), DT_UNKNOWN, &top)) {
     RemoveTree(name.get(), trusted.c_str());
   }
   return succeeded_;
