@@ -37,7 +37,7 @@ int ModelOf(const std::string& name) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
                                       std::size_t size) {
   const std::string bytes(data, data + size);
-  const std::string name = bytes.c_str();
+  const std::string name = bytes.substr(0, bytes.find('\0'));
   const int language = LanguageOfLocale(name.c_str());
   Require(language == ModelOf(name), "the language is that of the rules");
   return 0;
