@@ -5,6 +5,7 @@
 #include "app/dialogs.h"
 #include "app/icons.h"
 #include "app/list_presentation.h"
+#include "app/list_sizes.h"
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/notebook_pages.h"
@@ -99,6 +100,7 @@ bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
   prepare_lists(panel);
   set_links(panel);
   localize_widgets(panel);
+  fix_list_sizes(panel);
   set_accessible_names(panel);
   gtk_widget_show(panel->window);
   return true;

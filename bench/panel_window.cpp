@@ -2,6 +2,7 @@
 
 #include "app/icons.h"
 #include "app/list_presentation.h"
+#include "app/list_sizes.h"
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/start_up.h"
@@ -26,6 +27,7 @@ GnomeTCCapplet* StartWithoutStore(int* argc, char*** argv) {
   prepare_list_sorting(panel);
   prepare_lists(panel);
   localize_widgets(panel);
+  fix_list_sizes(panel);
   set_accessible_names(panel);
   gtk_widget_show(panel->window);
   return panel;

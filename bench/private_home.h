@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-// Makes a directory in $BENCH_DIRECTORY, in memory where the system has such
-// a place (/dev/shm), or else in /tmp; points HOME at it, and removes it at
-// the end. One for a process: the panel works its paths out once.
+// Makes a directory in $BENCH_DIRECTORY, or else in /tmp, points HOME at it,
+// and removes it at the end. One for a process: the panel works its paths out
+// once.
 class PrivateHome {
  public:
   PrivateHome();

@@ -1,0 +1,119 @@
+#include "app/list_sizes.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "app/permission_choices.h"
+#include "app/widget_helpers.h"
+#include "model/storage_setting.h"
+
+namespace {
+
+enum class Content { kName, kUsedSpace, kPermission };
+
+struct SizedColumn {
+  const char* tree_view;
+  const char* column;
+  const char* renderer;
+  Content content;
+};
+
+constexpr SizedColumn kSizedColumns[] = {
+    {"site_storage_treeview", "site_storage_site_column",
+     "cellrenderer_storage_website", Content::kName},
+    {"site_storage_treeview", "site_storage_used_column",
+     "cellrenderer_storage_used", Content::kUsedSpace},
+    {"site_storage_treeview", "site_storage_permission_column",
+     "cellrenderer_storage_permission_settings_combo", Content::kPermission},
+    {"site_privacy_treeview", "site_privacy_site_column",
+     "cellrenderer_website", Content::kName},
+    {"site_privacy_treeview", "site_privacy_cam_and_mic_column",
+     "site_privacy_permission_settings_combo", Content::kPermission},
+    {"site_p2p_treeview", "site_p2p_site_column", "p2p_cellrenderer_website3",
+     Content::kName},
+    {"site_p2p_treeview", "site_p2p_permission_column",
+     "cellrenderer_p2p_permission_settings_combo", Content::kPermission},
+    {"trusted_locations_treeview", "trusted_location_column",
+     "trusted_location", Content::kName},
+};
+
+// The longest text of each unit of size.
+constexpr double kLongSizes[] = {0, 1023, 1048064, 1073741823, 1099511627775};
+
+// Texts as wide as any that the column will show.
+std::vector<std::string> WidestTexts(GnomeTCCapplet* panel, Content content) {
+  std::vector<std::string> texts;
+  if (content == Content::kPermission) {
+    for (const PermissionChoice& choice : kPermissionChoices) {
+      texts.emplace_back(permission_state_text(panel, choice.state));
+    }
+  } else if (content == Content::kUsedSpace) {
+    for (const double bytes : kLongSizes) {
+      char text[80];
+      StorageSetting::FormatSpace(bytes, text, sizeof text);
+      texts.emplace_back(text);
+    }
+  } else {
+    texts.emplace_back();  // a name takes a width of its own, and is cut to it
+  }
+  return texts;
+}
+
+int TitleWidth(GtkTreeViewColumn* column) {
+  // With the arrow that shows how the list is sorted.
+  const bool is_sorted = gtk_tree_view_column_get_sort_indicator(column);
+  gtk_tree_view_column_set_sort_indicator(column, TRUE);
+  GtkRequisition wanted;
+  gtk_widget_size_request(column->button, &wanted);
+  gtk_tree_view_column_set_sort_indicator(column, is_sorted);
+  return wanted.width;
+}
+
+int CellWidth(GtkTreeViewColumn* column, GtkCellRenderer* renderer,
+              const std::string& text) {
+  g_object_set(renderer, "text", text.c_str(), nullptr);
+  int width = 0;
+  gtk_tree_view_column_cell_get_size(column, nullptr, nullptr, nullptr, &width,
+                                     nullptr);
+  int separator = 0;
+  gtk_widget_style_get(gtk_tree_view_column_get_tree_view(column),
+                       "horizontal-separator", &separator, nullptr);
+  return width + separator;
+}
+
+void SetWidths(GtkWidget* view, GtkStyle*, gpointer data) {
+  auto* panel = static_cast<GnomeTCCapplet*>(data);
+  for (const SizedColumn& row : kSizedColumns) {
+    GtkTreeViewColumn* column = get_column(panel->builder, row.column);
+    if (gtk_tree_view_column_get_tree_view(column) != view) continue;
+    GtkCellRenderer* renderer = GTK_CELL_RENDERER(
+        get_object(panel->builder, row.renderer, GTK_TYPE_CELL_RENDERER));
+    int width = TitleWidth(column);
+    for (const std::string& text : WidestTexts(panel, row.content)) {
+      width = std::max(width, CellWidth(column, renderer, text));
+    }
+    gtk_tree_view_column_set_fixed_width(column, width);
+  }
+}
+
+}  // namespace
+
+void fix_list_sizes(GnomeTCCapplet* panel) {
+  for (const SizedColumn& row : kSizedColumns) {
+    gtk_tree_view_column_set_sizing(get_column(panel->builder, row.column),
+                                    GTK_TREE_VIEW_COLUMN_FIXED);
+    if (row.content != Content::kName) continue;
+    // A name of several lines takes no more height than the others.
+    g_object_set(
+        get_object(panel->builder, row.renderer, GTK_TYPE_CELL_RENDERER),
+        "single-paragraph-mode", TRUE, nullptr);
+  }
+  for (const SizedColumn& row : kSizedColumns) {
+    GtkTreeView* view = get_tree_view(panel->builder, row.tree_view);
+    if (gtk_tree_view_get_fixed_height_mode(view)) continue;
+    SetWidths(GTK_WIDGET(view), nullptr, panel);
+    gtk_tree_view_set_fixed_height_mode(view, TRUE);
+    g_signal_connect(view, "style-set", G_CALLBACK(SetWidths), panel);
+  }
+}
