@@ -122,7 +122,7 @@ class RecordReader {
   std::uint8_t Byte() { return next_ == end_ ? std::uint8_t{0} : *next_++; }
   std::string Text(std::size_t size) {
     size = std::min(size, static_cast<std::size_t>(end_ - next_));
-    const std::string text(next_, next_ + size);
+    std::string text(next_, next_ + size);
     next_ += size;
     return text;
   }
