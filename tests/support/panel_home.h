@@ -18,8 +18,7 @@ class PanelHome : public TemporaryHome {
   void AddSites(const Names& sites) const;
   void AddLocations(const Names& locations) const;
   // A file in the site's local storage; its name from the home.
-  std::string AddData(const std::string& site,
-                                    std::size_t bytes) const;
+  std::string AddData(const std::string& site, std::size_t bytes) const;
 
   // The value under a key in the settings file of a site, or of all for
   // kMaster: "true", "100", "[a b]" of the names in an array; "" when there
