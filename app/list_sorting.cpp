@@ -23,6 +23,8 @@ constexpr SortableColumn kSortableColumns[] = {
     {"trusted_location_column", 0},
 };
 
+bool rows_are_in_order = false;
+
 std::string ReversedColumn(GtkTreeModel* model, GtkTreeIter* row,
                            gpointer column) {
   const SASM::SimpleString text =
@@ -56,16 +58,24 @@ void tree_model_set_column_comparator(GnomeTCCapplet* panel,
 
 gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
                            gpointer column) {
+  if (rows_are_in_order) return 0;
   return ReversedColumn(model, a, column)
       .compare(ReversedColumn(model, b, column));
 }
 
 gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
                         gpointer column) {
+  if (rows_are_in_order) return 0;
   const guint a_value = UnsignedColumn(model, a, column);
   const guint b_value = UnsignedColumn(model, b, column);
   return (a_value > b_value) - (a_value < b_value);
 }
+
+RowsInOrder::RowsInOrder(bool are_in_order) {
+  rows_are_in_order = are_in_order;
+}
+
+RowsInOrder::~RowsInOrder() { rows_are_in_order = false; }
 
 std::string reverse_domain_components(const char* domain) {
   std::string_view rest = domain;

@@ -20,6 +20,16 @@ gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
 gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
                         gpointer column);
 
+// While it lives the sort functions take rows for what they are said to be: in
+// order already. A list sorted then keeps its rows as they stand.
+class RowsInOrder {
+ public:
+  explicit RowsInOrder(bool are_in_order);
+  ~RowsInOrder();
+  RowsInOrder(const RowsInOrder&) = delete;
+  RowsInOrder& operator=(const RowsInOrder&) = delete;
+};
+
 // "shop.example.com" becomes "com.example.shop". Empty components go.
 std::string reverse_domain_components(const char* domain);
 

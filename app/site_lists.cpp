@@ -1,5 +1,10 @@
 #include "app/site_lists.h"
 
+#include <algorithm>
+#include <string>
+#include <tuple>
+#include <vector>
+
 #include "app/detached_list.h"
 #include "app/notebook_pages.h"
 #include "model/storage_setting.h"
@@ -22,6 +27,15 @@ struct UsedSpace {
   guint raw_bytes;  // the low 32 bits, by which the column is sorted
 };
 
+struct SiteRow {
+  const char* website;
+  PermissionState state;
+  UsedSpace used;
+  // Where the list is sorted, what it is sorted by: the one or the other.
+  std::string text_key;
+  guint number_key;
+};
+
 void MeasureSpace(GnomeTCCapplet* panel, const SimpleString& domain,
                   UsedSpace* used) {
   const std::uint64_t bytes = panel->settings->SizeOfLocalStorage(domain);
@@ -30,20 +44,58 @@ void MeasureSpace(GnomeTCCapplet* panel, const SimpleString& domain,
   used->raw_bytes = static_cast<guint>(bytes);
 }
 
-void AppendSite(GnomeTCCapplet* panel, GtkListStore* store,
-                SitePermissionMode mode, const SimpleString& domain,
-                PermissionState state) {
+std::vector<SiteRow> ReadRows(GnomeTCCapplet* panel, SitePermissionMode mode) {
+  const bool all_are_blocked =
+      mode == kPeerAssistedMode &&
+      panel->p2p_uplink->getBoolValue(SASM::kDisallowP2PUplink);
+  const SASM::SDIVector* domains = panel->settings->GetDomains();
+  std::vector<SiteRow> rows(domains ? domains->count : 0);
+  for (unsigned int i = 0; i < rows.size(); ++i) {
+    const SimpleString& domain = domains->At(i)->name;
+    rows[i].website = domain.c_str();
+    rows[i].state = all_are_blocked
+                        ? PermissionSetting::kPermissionStateAlwaysDeny
+                        : kSitePermissions[mode].read(domain);
+    if (mode == kStorageMode) MeasureSpace(panel, domain, &rows[i].used);
+  }
+  return rows;
+}
+
+guint NumberIn(const SiteRow& row, SitePermissionMode mode, int column) {
+  const bool is_state = column == kSitePermissions[mode].state_column;
+  return is_state ? static_cast<guint>(row.state) : row.used.raw_bytes;
+}
+
+// As the list would sort them itself by its sort functions, which take their
+// texts apart anew at every comparison.
+void SortRows(std::vector<SiteRow>* rows, SitePermissionMode mode, int column,
+              bool descending) {
+  for (SiteRow& row : *rows) {
+    if (column == kWebsiteColumn) {
+      row.text_key = reverse_domain_components(row.website);
+    } else {
+      row.number_key = NumberIn(row, mode, column);
+    }
+  }
+  std::ranges::stable_sort(*rows, [=](const SiteRow& a, const SiteRow& b) {
+    const SiteRow& first = descending ? b : a;
+    const SiteRow& second = descending ? a : b;
+    return std::tie(first.number_key, first.text_key) <
+           std::tie(second.number_key, second.text_key);
+  });
+}
+
+void AppendRow(GnomeTCCapplet* panel, GtkListStore* store,
+               SitePermissionMode mode, const SiteRow& row) {
   const int state_column = kSitePermissions[mode].state_column;
-  UsedSpace used = {};
-  if (mode == kStorageMode) MeasureSpace(panel, domain, &used);
   gtk_list_store_insert_with_values(
       store, nullptr, G_MAXINT,  // at the end
-      kWebsiteColumn, domain.c_str(), state_column + kTextBeforeState,
-      permission_state_text(panel, state), state_column, state,
-      state_column + kIconAfterState, permission_state_icon(state),
+      kWebsiteColumn, row.website, state_column + kTextBeforeState,
+      permission_state_text(panel, row.state), state_column, row.state,
+      state_column + kIconAfterState, permission_state_icon(row.state),
       // Of the other lists the row ends here.
-      mode == kStorageMode ? kUsedColumn : -1, used.text, kUsedRawColumn,
-      used.raw_bytes, -1);
+      mode == kStorageMode ? kUsedColumn : -1, row.used.text, kUsedRawColumn,
+      row.used.raw_bytes, -1);
 }
 
 void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
@@ -61,18 +113,13 @@ void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode) {
   const SitePermission& list = kSitePermissions[mode];
   set_sensitive(panel, list.remove_button, false);
   GtkListStore* store = get_list_store(panel->builder, list.list_store);
-  const DetachedList detached(get_tree_view(panel->builder, list.tree_view),
-                              store);
-  const bool all_are_blocked =
-      mode == kPeerAssistedMode &&
-      panel->p2p_uplink->getBoolValue(SASM::kDisallowP2PUplink);
-  const SASM::SDIVector* domains = panel->settings->GetDomains();
-  for (unsigned int i = 0; domains && i < domains->count; ++i) {
-    const SimpleString& domain = domains->At(i)->name;
-    AppendSite(panel, store, mode, domain,
-               all_are_blocked ? PermissionSetting::kPermissionStateAlwaysDeny
-                               : list.read(domain));
+  std::vector<SiteRow> rows = ReadRows(panel, mode);
+  DetachedList detached(get_tree_view(panel->builder, list.tree_view), store);
+  if (detached.IsSorted()) {
+    SortRows(&rows, mode, detached.SortColumn(), detached.IsDescending());
+    detached.SetRowsAreInOrder();
   }
+  for (const SiteRow& row : rows) AppendRow(panel, store, mode, row);
 }
 
 SimpleString get_domain_field(GnomeTCCapplet*, GtkTreeModel* model,
