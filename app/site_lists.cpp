@@ -49,8 +49,9 @@ std::vector<SiteRow> ReadRows(GnomeTCCapplet* panel, SitePermissionMode mode) {
       mode == kPeerAssistedMode &&
       panel->p2p_uplink->getBoolValue(SASM::kDisallowP2PUplink);
   const SASM::SDIVector* domains = panel->settings->GetDomains();
-  std::vector<SiteRow> rows(domains ? domains->count : 0);
-  for (unsigned int i = 0; i < rows.size(); ++i) {
+  if (!domains) return {};
+  std::vector<SiteRow> rows(domains->count);
+  for (unsigned int i = 0; i < domains->count; ++i) {
     const SimpleString& domain = domains->At(i)->name;
     rows[i].website = domain.c_str();
     rows[i].state = all_are_blocked
