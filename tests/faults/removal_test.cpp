@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 
 #include "platform/file_descriptor.h"
 #include "store/settings_manager.h"
@@ -74,11 +75,26 @@ void MakeTree(const fs::path& top) {
   }
 }
 
+class Attacker {
+ public:
+  explicit Attacker(const fs::path& home) : process_(fork()) {
+    if (process_ == 0) Attack(home.string());
+  }
+  ~Attacker() {
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+  }
+  Attacker(const Attacker&) = delete;
+  Attacker& operator=(const Attacker&) = delete;
+
+ private:
+  pid_t process_;
+};
+
 TEST_F(Removal, UnderAttackNeverReachesWhatLinksLeadTo) {
   MakeTree(home_ / "precious");
   const std::vector<std::string> precious = home_.List();
-  const pid_t attacker = fork();
-  if (attacker == 0) Attack(home_.Path().string());
+  std::optional<Attacker> attacker(home_.Path());
   testing::internal::CaptureStderr();
   for (int i = 0; i < RemovalCount(); ++i) {
     const fs::path fresh = home_ / ("fresh" + std::to_string(i));
@@ -90,15 +106,18 @@ TEST_F(Removal, UnderAttackNeverReachesWhatLinksLeadTo) {
     fs::rename(fresh / "links", home_ / "links");
     fs::rename(fresh / "t", home_ / "t");
     for (const char* name : {"t", "links"}) (void)Remove(name);
-    // What was swapped away in time is out of the attacker's reach now.
     for (const char* name : {"links", "t"}) {
       (void)renameat2(AT_FDCWD, (home_ / name).c_str(), AT_FDCWD,
                       (fresh / name).c_str(), 0);
     }
-    ASSERT_TRUE(Remove(fresh.filename()));
+    (void)Remove(fresh.filename());
   }
-  kill(attacker, SIGKILL);
-  waitpid(attacker, nullptr, 0);
+  attacker.reset();
+  // A directory that was a link for a moment may have been left.
+  for (const auto& entry : fs::directory_iterator(home_.Path())) {
+    const std::string name = entry.path().filename();
+    EXPECT_TRUE(name == "precious" || Remove(name)) << name;
+  }
   testing::internal::GetCapturedStderr();
   EXPECT_EQ(home_.List(), precious);
 }
