@@ -12,9 +12,6 @@ constexpr char kEntry[] = "new_site_entry";
 constexpr char kPermission[] = "new_site_permission";
 constexpr char kAddButton[] = "new_site_add_button";
 
-// Column of the list store permission_settings, the combo box's model.
-constexpr int kChoiceStateColumn = 2;
-
 GtkComboBox* get_combo_box(GnomeTCCapplet* panel, const char* combo_box_id) {
   return GTK_COMBO_BOX(
       get_object(panel->builder, combo_box_id, GTK_TYPE_COMBO_BOX));
@@ -30,13 +27,10 @@ void set_combo_permission_enum(GnomeTCCapplet* panel, const char* combo_box_id,
 PermissionState get_combo_permission_enum(GnomeTCCapplet* panel,
                                           const char* combo_box_id) {
   GtkComboBox* combo_box = get_combo_box(panel, combo_box_id);
-  int state = PermissionSetting::kPermissionStateNone;
   GtkTreeIter active;
-  if (gtk_combo_box_get_active_iter(combo_box, &active)) {
-    gtk_tree_model_get(gtk_combo_box_get_model(combo_box), &active,
-                       kChoiceStateColumn, &state, -1);
-  }
-  return static_cast<PermissionState>(state);
+  return gtk_combo_box_get_active_iter(combo_box, &active)
+             ? get_choice_state(gtk_combo_box_get_model(combo_box), &active)
+             : PermissionSetting::kPermissionStateNone;
 }
 
 void AskForSite(GnomeTCCapplet* panel, SitePermissionMode mode) {

@@ -3,10 +3,7 @@
 #include "app/site_lists.h"
 #include "app/trusted_locations.h"
 #include "app/widget_helpers.h"
-#include "model/storage_setting.h"
 #include "store/setting_keys.h"
-
-using SASM::SettingsManager;
 
 namespace {
 
@@ -41,17 +38,14 @@ const char* StorageButtonOf(PermissionState state) {
 }
 
 void UpdateStoragePage(GnomeTCCapplet* panel) {
-  StorageSetting limit(SASM::kDefaultStorageLimit,
-                       SettingsManager::MasterDomain());
-  const char* button = StorageButtonOf(limit.getPermissionState());
+  const char* button = StorageButtonOf(kSitePermissions[kStorageMode].preset());
   if (button) set_toggle_active(panel, button, true);
   fill_site_list(panel, kStorageMode);
 }
 
 void UpdatePrivacyPage(GnomeTCCapplet* panel) {
-  SettingBase always(SASM::kDefaultCameraAlways,
-                     SettingsManager::MasterDomain());
-  const bool deny = always.getBoolValue(SASM::kDefaultCameraAlways);
+  const bool deny = kSitePermissions[kCameraAndMicMode].preset() ==
+                    PermissionSetting::kPermissionStateAlwaysDeny;
   set_toggle_active(panel,
                     deny ? "site_privacy_always_deny_rbutton"
                          : "site_privacy_always_ask_rbutton",

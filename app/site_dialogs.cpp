@@ -6,9 +6,6 @@ using SASM::SimpleString;
 
 namespace {
 
-// Column of the list store permission_settings.
-constexpr int kChoiceStateColumn = 2;
-
 // What the row callbacks receive.
 struct ChosenState {
   GnomeTCCapplet* panel;
@@ -43,10 +40,8 @@ void SetSelected(GnomeTCCapplet* panel, SitePermissionMode mode,
                  GtkTreeSelectionForeachFunc row_callback) {
   GtkTreeModel* choices = nullptr;
   g_object_get(renderer, "model", &choices, nullptr);
-  int value = 0;
-  gtk_tree_model_get(choices, choice, kChoiceStateColumn, &value, -1);
+  PermissionState state = get_choice_state(choices, choice);
   g_object_unref(choices);
-  auto state = static_cast<PermissionState>(value);
   ChosenState chosen = {panel, &state};
   for_each_selected(panel, kSitePermissions[mode].tree_view, row_callback,
                     &chosen);

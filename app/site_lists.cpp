@@ -123,6 +123,13 @@ void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode) {
   for (const SiteRow& row : rows) AppendRow(panel, store, mode, row);
 }
 
+PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice) {
+  constexpr int kStateColumn = 2;
+  int state = PermissionSetting::kPermissionStateNone;
+  gtk_tree_model_get(choices, choice, kStateColumn, &state, -1);
+  return static_cast<PermissionState>(state);
+}
+
 SimpleString get_domain_field(GnomeTCCapplet*, GtkTreeModel* model,
                               GtkTreeIter* row) {
   return get_text_field(model, row, kWebsiteColumn);

@@ -26,7 +26,7 @@ struct SitePermission {
   // The stored permission of a site.
   PermissionState (*read)(const SASM::SimpleString& domain);
   void (*write)(const SASM::SimpleString& domain, PermissionState state);
-  // What a new site is offered.
+  // What a new site is offered: where there is one, the permission of all.
   PermissionState (*preset)();
 };
 
@@ -37,6 +37,9 @@ extern const SitePermission kSitePermissions[3];
 // manager's list unless the user has sorted it, and makes its Remove button
 // insensitive. Selection and cursor are lost with the old rows.
 void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode);
+
+// The state of a row of the list store permission_settings.
+PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice);
 
 // A copy of the row's domain.
 SASM::SimpleString get_domain_field(GnomeTCCapplet* panel, GtkTreeModel* model,
