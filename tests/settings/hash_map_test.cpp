@@ -3,13 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <random>
+#include <ranges>
 
 namespace {
 
 using SASM::SimpleString;
 using IntMap = SASM::HashMap<SimpleString, int, SASM::hashSS>;
-using Entries = std::vector<std::pair<std::string, int>>;
+using Entry = std::pair<std::string, int>;
 
 unsigned int BucketOf(const std::string& key) {
   int sum = 0;
@@ -17,32 +19,11 @@ unsigned int BucketOf(const std::string& key) {
   return static_cast<unsigned int>(sum) % 16;
 }
 
-// The same order by other means.
-struct Model {
-  int* Find(const std::string& key) {
-    const auto at =
-        std::ranges::find(entries, key, &Entries::value_type::first);
-    return at == entries.end() ? nullptr : &at->second;
-  }
-  void Insert(const std::string& key, int value) {
-    if (int* present = Find(key)) {
-      *present = value;
-      return;
-    }
-    const auto first_of_bucket = std::ranges::find_if(
-        entries, [bucket = BucketOf(key)](const auto& entry) {
-          return BucketOf(entry.first) >= bucket;
-        });
-    entries.emplace(first_of_bucket, key, value);
-  }
-  void Erase(const std::string& key) {
-    std::erase_if(entries, [&](const auto& e) { return e.first == key; });
-  }
-  Entries entries;
-};
+// The same order by other means: by bucket, then the newest first.
+using Model = std::map<std::pair<unsigned int, int>, Entry>;
 
-Entries Walk(const IntMap& map) {
-  Entries all;
+std::vector<Entry> Walk(const IntMap& map) {
+  std::vector<Entry> all;
   const IntMap::Node* before = nullptr;
   for (auto at = map.begin();; ++at) {
     EXPECT_EQ(at->prev, before);
@@ -57,31 +38,33 @@ TEST(HashMap, AgreesWithAModelOverRandomOperations) {
   const unsigned int seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
   std::mt19937 random(seed);
-  const auto below = [&](unsigned int n) {
-    return static_cast<unsigned int>(random() % n);
-  };
   IntMap map;
   Model model;
   for (int step = 0; step < 20000; ++step) {
     // So many keys that the map is now above the size of a tree, now below.
     std::string key;
-    for (unsigned int i = below(5); i > 0; --i) key += "ab\xC3 qr"[below(6)];
+    for (auto n = random() % 5; n > 0; --n) key += "ab\xC3 qr"[random() % 6];
     const auto found = map.find(key.c_str());
-    const int* expected = model.Find(key);
-    ASSERT_EQ(found == map.end(), expected == nullptr) << key;
-    const unsigned int action = below(1000);
+    const auto expected = std::ranges::find_if(
+        model, [&](const auto& node) { return node.second.first == key; });
+    const bool is_new = expected == model.end();
+    ASSERT_EQ(found == map.end(), is_new) << key;
+    const auto action = random() % 1000;
     if (action == 0) {
       EXPECT_TRUE(map.clear());
-      model.entries.clear();
+      model.clear();
     } else if (action < 700) {
       const auto stored = map.insert(key.c_str(), step);
-      ASSERT_TRUE(!expected || stored == found) << "the node stays";
-      model.Insert(key, step);
-    } else if (expected) {
+      ASSERT_TRUE(is_new || stored == found) << "the node stays";
+      const auto place =
+          is_new ? std::pair(BucketOf(key), -step) : expected->first;
+      model[place] = {key, step};
+    } else if (!is_new) {
       map.erase(found);
-      model.Erase(key);
+      model.erase(expected);
     }
-    ASSERT_EQ(Walk(map), model.entries) << "step " << step;
+    ASSERT_TRUE(std::ranges::equal(Walk(map), model | std::views::values))
+        << "step " << step;
   }
 }
 

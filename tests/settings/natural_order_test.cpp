@@ -1,0 +1,49 @@
+#include <gmock/gmock.h>
+
+#include "settings/string_vector.h"
+#include "tests/support/settings_image.h"
+
+namespace {
+
+int Sign(int value) { return (value > 0) - (value < 0); }
+
+TEST(NaturalOrder, PutsNumbersByValueAndDigitsAfterLetters) {
+  const struct {
+    const char* a;
+    const char* b;
+    int sign;
+  } cases[] = {
+      {"9", "10", -1},
+      {"007", "7", 0},
+      {"10b", "10a", 0},
+      {"ab", "ab1", -1},
+      {"b", "C", -1},
+      {"x9", "xz", +1},
+      {"Ab", "aC", 0},
+      {"\x80", "a", -1},
+      {"", "\xFF", +1},
+      {"-9", "-10", +1},
+      {"@", "A", -1},
+      {"2", "4294967297", +1},            // which is 1 in 32 bits
+      {"0", "99999999999999999999", +1},  // the largest number, so -1
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.a) + " ? " + c.b);
+    EXPECT_EQ(Sign(CompareNaturally(c.a, c.b)), c.sign);
+    EXPECT_EQ(Sign(CompareNaturally(c.b, c.a)), -c.sign);
+  }
+}
+
+TEST(NaturalOrder, SortsAListThatHasGrown) {
+  SortableStringVector list;
+  for (const SASM::SimpleString text :
+       {"a1", "10", "B", "aZ", "2", "a", "\xC3\xA4", "3", "4", "5", "6"}) {
+    list.addElement(&text);
+  }
+  list.Sort();
+  EXPECT_THAT(image::NamesOf(list),
+              testing::ElementsAre("\xC3\xA4", "a", "aZ", "a1", "B", "2", "3",
+                                   "4", "5", "6", "10"));
+}
+
+}  // namespace
