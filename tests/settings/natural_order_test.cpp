@@ -24,9 +24,9 @@ TEST(NaturalOrder, PutsNumbersByValueAndDigitsAfterLetters) {
       {"", "\xFF", +1},
       {"-9", "-10", +1},
       {"@", "A", -1},
-      {"2", "4294967297", +1},            // which is 1 in 32 bits
-      {"0", "99999999999999999999", +1},  // the largest number, so -1
-  };
+      // Numbers are cut to 32 bits: to 1, and the largest of all to -1.
+      {"2", "4294967297", +1},
+      {"0", "99999999999999999999", +1}};
   for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.a) + " ? " + c.b);
     EXPECT_EQ(Sign(CompareNaturally(c.a, c.b)), c.sign);
