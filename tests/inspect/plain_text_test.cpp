@@ -1,18 +1,12 @@
 #include "inspect/plain_text.h"
 
-#include <gmock/gmock.h>
-
-#include <cmath>
-#include <cstdlib>
-#include <limits>
+#include <gtest/gtest.h>
 
 TEST(Printable, LeavesNothingThatATerminalWouldObey) {
   const struct {
     std::string bytes;
     const char* text;
   } cases[] = {
-      {"", ""},
-      {"www.example.com", "www.example.com"},
       {"bücher 日本 😀", "bücher 日本 😀"},
       {"a\\b", "a\\\\b"},
       {"\x1B[2J\r\n\t\x7F", "\\x1B[2J\\x0D\\x0A\\x09\\x7F"},
@@ -29,42 +23,13 @@ TEST(Printable, LeavesNothingThatATerminalWouldObey) {
   }
 }
 
-TEST(Decimal, ReadsBackAsTheSameNumber) {
-  using Limits = std::numeric_limits<double>;
-  for (const double number :
-       {0.0, -0.0, 100.0, 0.1, 1e22, Limits::max(), Limits::denorm_min()}) {
-    const std::string text = Decimal(number);
-    SCOPED_TRACE(text);
-    EXPECT_EQ(std::strtod(text.c_str(), nullptr), number);
-    EXPECT_EQ(text[0] == '-', std::signbit(number));
-  }
-  EXPECT_EQ(Decimal(100), "100");
-  EXPECT_EQ(Decimal(Limits::infinity()), "inf");
-}
-
-TEST(TextTable, KeepsColumnsInLine) {
+TEST(TextTable, LetsOneLongCellPushOnlyItsOwnRow) {
+  const std::string longest(70000, 'x');
   TextTable table;
-  table.Add({"ab", "x"});
-  table.Add({"日本", "y"});
-  table.Add({"é", "z"});
-  table.Add({"e\u0301", "z"});
-  table.Add({"한글", "z"});
+  table.Add({longest, "1"});
+  table.Add({"e\u0301", "2"});
   testing::internal::CaptureStdout();
   table.Print();
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
-            "ab    x\n"
-            "日本  y\n"
-            "é     z\n"
-            "e\u0301     z\n"
-            "한글  z\n");
-}
-
-TEST(TextTable, LetsOneLongCellPushOnlyItsOwnRow) {
-  TextTable table;
-  const std::string longest(70000, 'x');
-  table.Add({longest, "1"});
-  table.Add({"ab", "2"});
-  testing::internal::CaptureStdout();
-  table.Print();
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), longest + "  1\nab  2\n");
+            longest + "  1\ne\u0301  2\n");
 }

@@ -1,0 +1,57 @@
+#include "tests/inspect/settings_program_test.h"
+
+namespace {
+
+using testing::HasSubstr;
+using CommandLine = SettingsProgramTest;
+using VersionCommand = SettingsProgramTest;
+
+TEST_F(CommandLine, IsRefusedWhereItMakesNoSense) {
+  for (const char* arguments :
+       {"", "shw", "show --jsn", "show --permission", "show -p storage",
+        "show -p storage=", "show -p =block", "show -p disk=block",
+        "show -p storage=none", "show -p storage=block=x", "inspect",
+        "inspect -p storage=block x", "version --json", "version x",
+        "--json"}) {
+    SCOPED_TRACE(arguments);
+    const ProgramRun run = Run(arguments);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_THAT(run.errors, HasSubstr("--help"));
+  }
+}
+
+TEST_F(CommandLine, FailsWhenItsOutputIsLost) {
+  const ProgramRun run = Run("show >/dev/full");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_THAT(run.errors, HasSubstr("No space left on device"));
+}
+
+// Puts one of the stand-ins for the plug-in, or none, where it is found.
+TEST_F(VersionCommand, TellsWhatIsInstalled) {
+  const struct {
+    const char* stand_in;
+    const char* text;
+  } cases[] = {
+      {"none", "Tessary Corvane Player is not installed on this computer."},
+      {"good.so",
+       "Tessary Corvane Player 10.1 r53 is installed on this computer."},
+      {"failing.so",
+       "Unable to determine the version of Tessary Corvane Player installed on "
+       "this computer."},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.stand_in);
+    // Without PATH nothing is located that this computer may have.
+    const ProgramRun run = RunCommand(
+        "ln -sf " STAND_INS "/" + std::string(c.stand_in) +
+        " ~/libcorvaneplayer.so; PATH=/nonexistent MOZ_PLUGIN_PATH=~ " PROGRAM
+        " version");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output,
+              "corvane-player-settings 1.0.0\n" + std::string(c.text) + "\n");
+  }
+}
+
+}  // namespace

@@ -1,0 +1,34 @@
+// The installed program that reads settings, on a home of the test's own.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "tests/support/program_run.h"
+#include "tests/support/settings_image.h"
+#include "tests/support/temporary_home.h"
+
+class SettingsProgramTest : public testing::Test {
+ protected:
+  SettingsProgramTest() { setenv("LC_ALL", "C", 1); }
+
+  static ProgramRun Run(const std::string& arguments) {
+    return RunCommand(std::string(PROGRAM) + " " + arguments);
+  }
+  // The same, with the output that a jq filter makes of its JSON. The program
+  // has to have written UTF-8: jq alone would mend what is none.
+  static ProgramRun Query(const std::string& arguments,
+                          const std::string& filter) {
+    return RunCommand("json=$(" PROGRAM " --json " + arguments +
+                      "); status=$?; printf %s \"$json\" |"
+                      " iconv -f UTF-8 -t UTF-8 | jq -cr " +
+                      Quoted(filter) + " && exit $status");
+  }
+  static std::string Answer(const std::string& arguments,
+                            const std::string& filter) {
+    return Query(arguments, filter).output;
+  }
+
+  TemporaryHome home_;
+};
