@@ -48,11 +48,11 @@ class PluginVersion : public testing::Test {
   const std::string path_ = std::getenv("PATH");
 };
 
-std::size_t CountDescriptors() {
-  return static_cast<std::size_t>(
-      std::distance(fs::directory_iterator("/proc/self/fd"), {}));
+std::ptrdiff_t CountDescriptors() {
+  return std::distance(fs::directory_iterator("/proc/self/fd"), {});
 }
 
+// And a candidate that does not load hides nothing beyond its directory.
 TEST_F(PluginVersion, TellsWhatEachKindOfLibraryAnswers) {
   const struct {
     const char* stand_in;
@@ -65,115 +65,89 @@ TEST_F(PluginVersion, TellsWhatEachKindOfLibraryAnswers) {
       {"digitless", "", PluginState::kNoVersion},
       {"entryless", nullptr, PluginState::kNoVersion},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.stand_in);
-    Install(c.stand_in, c.stand_in + std::string("/libcorvaneplayer.so"));
-    Search(home_ / c.stand_in);
-    EXPECT_STREQ(get_plugin_version(), c.version);
-    const char* version = "unset";
-    EXPECT_EQ(FindPluginVersion(&version), c.state);
-  }
-}
-
-TEST_F(PluginVersion, TakesTheFirstSourceThatLoads) {
-  Install("good", ".mozilla/plugins/corvaneplayer.so");
-  EXPECT_STREQ(get_plugin_version(), kGood);
-  Install("other", "b/my-corvaneplayer.so.2");
-  Search(":" + home_ / "missing" + "::~/b:");
-  EXPECT_STREQ(get_plugin_version(), kOther);
-  // Loaded, so the search is over, though it has no version.
-  Install("entryless", "a/corvaneplayer.so");
-  Search("$HOME/a:~/b");
-  EXPECT_EQ(get_plugin_version(), nullptr);
-}
-
-TEST_F(PluginVersion, ReadsADirectoryAsAWord) {
-  Install("good", "a b/corvaneplayer.so");
-  Install("other", "a/corvaneplayer.so");
-  Search("~/a b");
-  EXPECT_STREQ(get_plugin_version(), kOther);
-  Search("'" + home_ / "a b" + "'");
-  EXPECT_STREQ(get_plugin_version(), kGood);
-  for (const std::string item :
-       {"$(true >~/ran; echo ~/a)", "`true >~/ran; echo ~/a`",
-        "$NO_SUCH_VARIABLE", "~/a|", "\"~/a", " "}) {
-    SCOPED_TRACE(item);
-    Search(item);
-    EXPECT_EQ(get_plugin_version(), nullptr);
-  }
-  EXPECT_FALSE(home_.Has("ran"));
-}
-
-// A candidate that cannot be loaded hides what else its directory holds, and
-// nothing beyond.
-TEST_F(PluginVersion, TriesOneCandidateADirectory) {
   home_.Write("text/corvaneplayer.so", "not a library");
   fs::create_directories(home_ / "directory/corvaneplayer.so");
   fs::create_directory(home_ / "pipe");
   ASSERT_EQ(mkfifo((home_ / "pipe/corvaneplayer.so").c_str(), 0600), 0);
-  for (const std::string name : {"pipe", "directory", "text"}) {
-    SCOPED_TRACE(name);
-    Search(home_ / name);
-    const char* version = nullptr;
-    EXPECT_EQ(FindPluginVersion(&version), PluginState::kNotInstalled);
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.stand_in);
+    Install(c.stand_in, c.stand_in + std::string("/libcorvaneplayer.so.2"));
+    Search("~/text:~/directory:~/pipe::~/missing:~/" + std::string(c.stand_in));
+    EXPECT_STREQ(get_plugin_version(), c.version);
+    const char* version = "unset";
+    EXPECT_EQ(FindPluginVersion(&version), c.state);
   }
-  Install("good", "library");
-  fs::create_directory(home_ / "good");
-  fs::create_symlink("../library", home_ / "good/corvaneplayer.so");
-  Search("~/text:~/directory:~/pipe:~/good");
-  EXPECT_STREQ(get_plugin_version(), kGood);
+  Search("~/text");
+  const char* version = "unset";
+  EXPECT_EQ(FindPluginVersion(&version), PluginState::kNotInstalled);
 }
 
-TEST_F(PluginVersion, AsksLocateLastAndTakesOnlyAFileFromItsFirstLine) {
+TEST_F(PluginVersion, ComesFromTheFirstSourceThatLoads) {
+  Install("good", "library");
+  MakeLocate("echo ~/library");
+  EXPECT_STREQ(get_plugin_version(), kGood);
+  Install("other", ".mozilla/plugins/corvaneplayer.so");
+  EXPECT_STREQ(get_plugin_version(), kOther);
+  fs::create_directory(home_ / "linked");
+  fs::create_symlink("../library", home_ / "linked/corvaneplayer.so");
+  Search("$HOME/linked");
+  EXPECT_STREQ(get_plugin_version(), kGood);
+  // Loaded, so the search is over, though it has no version.
+  Install("entryless", "a/corvaneplayer.so");
+  Search("~/a:~/linked");
+  EXPECT_EQ(get_plugin_version(), nullptr);
+}
+
+TEST_F(PluginVersion, IsLookedForInAWordThatRunsNothing) {
+  Install("good", "a b/corvaneplayer.so");
+  Install("other", "a/corvaneplayer.so");
+  const std::pair<std::string, const char*> items[] = {
+      {"~/a b", kOther},
+      {"'" + home_ / "a b" + "'", kGood},
+      {"$(true >~/ran; echo ~/a)", nullptr},
+      {"`true >~/ran; echo ~/a`", nullptr},
+      {"$NO_SUCH_VARIABLE", nullptr},
+      {"~/a|", nullptr},
+      {"\"~/a", nullptr},
+      {" ", nullptr},
+  };
+  for (const auto& [item, version] : items) {
+    SCOPED_TRACE(item);
+    Search(item);
+    EXPECT_STREQ(get_plugin_version(), version);
+  }
+  EXPECT_FALSE(home_.Has("ran"));
+}
+
+TEST_F(PluginVersion, TakesAFileFromTheFirstLineThatLocatePrints) {
   Install("good", "corvaneplayer.so");
+  home_.Write("libc.so.6", "found by the loader, were it asked");
   const std::string library = home_ / "corvaneplayer.so";
   const std::string long_path =
       home_.Path().string() + std::string(1024, '/') + "corvaneplayer.so";
-  const struct {
-    const char* what;
-    std::string body;
-    const char* version;
-  } cases[] = {
-      {"asked for", "test \"$#$1\" = 1corvaneplayer.so && echo " + library,
-       kGood},
-      {"without a line end", "printf %s " + library, kGood},
-      {"second line", "echo /missing; echo " + library, nullptr},
-      {"nothing", "exit 1", nullptr},
-      {"a directory", "echo ~", nullptr},
-      {"a name that the loader would search for", "echo libc.so.6", nullptr},
-      {"over 1023 bytes", "echo " + long_path, nullptr},
-      {"never-ending", "while echo " + library + "; do :; done", kGood},
+  const std::pair<std::string, const char*> commands[] = {
+      {"test \"$#$1\" = 1corvaneplayer.so && echo " + library, kGood},
+      {"printf %s " + library, kGood},
+      {"echo /missing; echo " + library, nullptr},
+      {"echo no database >&2; exit 1", nullptr},
+      {"echo ~", nullptr},
+      {"echo libc.so.6", nullptr},
+      {"echo " + long_path, nullptr},
+      {"while echo " + library + "; do :; done", kGood},
   };
-  home_.Write("libc.so.6", "not a library");
-  const fs::path former = fs::current_path();
   fs::current_path(home_.Path());
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.what);
-    MakeLocate(c.body);
-    const char* version = nullptr;
-    EXPECT_EQ(FindPluginVersion(&version) == PluginState::kNotInstalled,
-              c.version == nullptr);
-    EXPECT_STREQ(version, c.version);
-  }
-  fs::current_path(former);
-  Install("other", ".mozilla/plugins/corvaneplayer.so");
-  EXPECT_STREQ(get_plugin_version(), kOther);
-}
-
-TEST_F(PluginVersion, StaysSilentAndReleasesEverything) {
-  Install("good", "good/corvaneplayer.so");
-  home_.Write("bad/corvaneplayer.so", "not a library");
-  const std::size_t before = CountDescriptors();
+  const std::ptrdiff_t descriptors = CountDescriptors();
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  Search("~/bad:(:~/missing");
-  MakeLocate("echo no database >&2; exit 1");
-  EXPECT_EQ(get_plugin_version(), nullptr);
-  Search("~/good");
-  EXPECT_STREQ(get_plugin_version(), kGood);
+  for (const auto& [command, version] : commands) {
+    SCOPED_TRACE(command);
+    MakeLocate(command);
+    EXPECT_STREQ(get_plugin_version(), version);
+  }
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-  EXPECT_EQ(CountDescriptors(), before);
+  EXPECT_EQ(CountDescriptors(), descriptors);
+  fs::current_path("/");
   EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
 }
 
