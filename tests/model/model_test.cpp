@@ -136,6 +136,8 @@ TEST_F(StorageLimit, StagesAPositionBeforeAPermission) {
     EXPECT_EQ(setting.isSettingLessThanOldValue(), c.is_smaller);
     EXPECT_TRUE(setting.commit());
     EXPECT_EQ(setting.getValue(), c.stored);
+    // A position takes no data; -2 is none, so that the permission counts.
+    EXPECT_EQ(HasData("a"), c.position != -2);
   }
 }
 
