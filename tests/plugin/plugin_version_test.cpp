@@ -142,7 +142,10 @@ TEST_F(PluginVersion, TakesAFileFromTheFirstLineThatLocatePrints) {
   for (const auto& [command, version] : commands) {
     SCOPED_TRACE(command);
     MakeLocate(command);
-    EXPECT_STREQ(get_plugin_version(), version);
+    const char* found = nullptr;
+    EXPECT_EQ(FindPluginVersion(&found) == PluginState::kNotInstalled,
+              version == nullptr);
+    EXPECT_STREQ(found, version);
   }
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
