@@ -11,6 +11,7 @@
 #include <cstdarg>
 #include <cstdlib>
 #include <new>
+#include <type_traits>
 
 #ifndef __SANITIZE_ADDRESS__
 extern "C" {
@@ -77,10 +78,19 @@ unsigned int OpenCalls(int flags) {
   return faults::kOpen | (creates ? faults::kCreate : 0U);
 }
 
-// The function that would have been called.
+// The C library's function of that name.
 template <typename Function>
 Function* Next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+// Calls the function of that name in the C library, or fails with `failure`.
+template <typename Result, typename... Arguments>
+Result Pass(unsigned int call, Result (*)(Arguments...), const char* name,
+            std::type_identity_t<Result> failure,
+            std::type_identity_t<Arguments>... arguments) {
+  if (Fails(call)) return failure;
+  return Next<Result(Arguments...)>(name)(arguments...);
 }
 
 void* Allocate(std::size_t size) {
@@ -176,8 +186,7 @@ int __openat_2(int directory, const char* path, int flags) {
 }
 
 ssize_t read(int file, void* bytes, std::size_t size) {
-  static auto* next = Next<ssize_t(int, void*, std::size_t)>("read");
-  return Fails(faults::kRead) ? -1 : next(file, bytes, size);
+  return Pass(faults::kRead, read, "read", -1, file, bytes, size);
 }
 
 ssize_t write(int file, const void* bytes, std::size_t size) {
@@ -206,70 +215,48 @@ int close(int file) {
 }
 
 int mkdir(const char* path, mode_t mode) {
-  static auto* next = Next<int(const char*, mode_t)>("mkdir");
-  return Fails(faults::kMkdir) ? -1 : next(path, mode);
+  return Pass(faults::kMkdir, mkdir, "mkdir", -1, path, mode);
 }
-
 int unlink(const char* path) {
-  static auto* next = Next<int(const char*)>("unlink");
-  return Fails(faults::kUnlink) ? -1 : next(path);
+  return Pass(faults::kUnlink, unlink, "unlink", -1, path);
 }
-
 int rmdir(const char* path) {
-  static auto* next = Next<int(const char*)>("rmdir");
-  return Fails(faults::kRmdir) ? -1 : next(path);
+  return Pass(faults::kRmdir, rmdir, "rmdir", -1, path);
 }
-
 int unlinkat(int directory, const char* path, int flags) {
-  static auto* next = Next<int(int, const char*, int)>("unlinkat");
-  const bool is_rmdir = flags & AT_REMOVEDIR;
-  if (Fails(is_rmdir ? faults::kRmdir : faults::kUnlink)) return -1;
-  return next(directory, path, flags);
+  const auto call = flags & AT_REMOVEDIR ? faults::kRmdir : faults::kUnlink;
+  return Pass(call, unlinkat, "unlinkat", -1, directory, path, flags);
 }
 
 DIR* opendir(const char* path) {
-  static auto* next = Next<DIR*(const char*)>("opendir");
-  return Fails(faults::kOpendir) ? nullptr : next(path);
+  return Pass(faults::kOpendir, opendir, "opendir", nullptr, path);
 }
-
 DIR* fdopendir(int directory) {
-  static auto* next = Next<DIR*(int)>("fdopendir");
-  return Fails(faults::kOpendir) ? nullptr : next(directory);
+  return Pass(faults::kOpendir, fdopendir, "fdopendir", nullptr, directory);
 }
-
 dirent* readdir(DIR* directory) {
-  static auto* next = Next<dirent*(DIR*)>("readdir");
-  return Fails(faults::kReaddir) ? nullptr : next(directory);
+  return Pass(faults::kReaddir, readdir, "readdir", nullptr, directory);
 }
-
 ssize_t getdents64(int directory, void* buffer, std::size_t size) {
-  static auto* next = Next<ssize_t(int, void*, std::size_t)>("getdents64");
-  return Fails(faults::kReaddir) ? -1 : next(directory, buffer, size);
+  return Pass(faults::kReaddir, getdents64, "getdents64", -1, directory, buffer,
+              size);
 }
 
 int access(const char* path, int mode) {
-  static auto* next = Next<int(const char*, int)>("access");
-  return Fails(faults::kStat) ? -1 : next(path, mode);
+  return Pass(faults::kStat, access, "access", -1, path, mode);
 }
-
 int stat(const char* path, struct stat* info) {
-  static auto* next = Next<int(const char*, struct stat*)>("stat");
-  return Fails(faults::kStat) ? -1 : next(path, info);
+  return Pass(faults::kStat, stat, "stat", -1, path, info);
 }
-
 int lstat(const char* path, struct stat* info) {
-  static auto* next = Next<int(const char*, struct stat*)>("lstat");
-  return Fails(faults::kStat) ? -1 : next(path, info);
+  return Pass(faults::kStat, lstat, "lstat", -1, path, info);
 }
-
 int fstat(int file, struct stat* info) {
-  static auto* next = Next<int(int, struct stat*)>("fstat");
-  return Fails(faults::kStat) ? -1 : next(file, info);
+  return Pass(faults::kStat, fstat, "fstat", -1, file, info);
 }
-
 int fstatat(int directory, const char* path, struct stat* info, int flags) {
-  static auto* next = Next<int(int, const char*, struct stat*, int)>("fstatat");
-  return Fails(faults::kStat) ? -1 : next(directory, path, info, flags);
+  return Pass(faults::kStat, fstatat, "fstatat", -1, directory, path, info,
+              flags);
 }
 
 // The home directory of the password database, where HOME gives none.

@@ -1,156 +1,132 @@
 #include "tests/faults/operations.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
 #include "model/storage_setting.h"
 #include "platform/drm_license_manager.h"
-#include "store/default_settings.h"
 
-using SASM::SettingsManager;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
 using Home = TemporaryHome;
 
 namespace {
 
-const std::vector<std::string> kBothSites = {"a.example", "b.example"};
-const std::string kMasterFile = Home::MasterFile();
-const std::string kStored = std::string(Home::kSharedObjects) + "/X7/";
+constexpr char kA[] = "a.example";
+constexpr char kB[] = "b.example";
+constexpr char kNew[] = "c.example";
 
-const SASM::SimpleString& Master() { return SettingsManager::MasterDomain(); }
-
-bool Start(Panel* panel) {
-  panel->Start();
+bool Start(Panel& panel) {
+  panel.Start();
   return true;
 }
 
-bool ChangeSetting(Panel* panel) {
-  const double limit = 1024;
-  SASM::SettingDataItem item("klimit", SASM::kSettingsDataTypeDouble, &limit);
-  return panel->manager->SetSetting(&item, "klimit", "a.example");
+bool ChangeSetting(Panel& panel) { return panel.SetNumber("klimit", 1024, kA); }
+
+bool AddSite(Panel& panel) {
+  return panel.manager->AddDomainWithDefaultSettings(kNew);
 }
 
-bool AddSite(Panel* panel) {
-  return panel->manager->AddDomainWithDefaultSettings("c.example");
+bool RemoveSite(Panel& panel) {
+  return panel.manager->RemoveDomainInformation(kA, true, true);
 }
 
-bool RemoveSite(Panel* panel) {
-  return panel->manager->RemoveDomainInformation("a.example", true, true);
-}
-
-bool BlockStorageEverywhere(Panel*) {
-  StorageSetting limit("defaultklimit", Master());
+bool BlockStorageEverywhere(Panel&) {
+  StorageSetting limit("defaultklimit", Panel::Master());
   return limit
       .setPermissionState(StorageSetting::State::kPermissionStateAlwaysDeny)
       .commit();
 }
 
-bool DeleteAll(Panel* panel) {
-  bool done = panel->manager->RemoveAllSettingsAndOrLocalStorage(true, true);
-  done = panel->manager->RemoveAssetCache() && done;
-  return SASM::DRMLicenseManager(&panel->files).Reset() && done;
+bool DeleteAll(Panel& panel) {
+  bool done = panel.manager->RemoveAllSettingsAndOrLocalStorage(true, true);
+  done = panel.manager->RemoveAssetCache() && done;
+  return SASM::DRMLicenseManager(&panel.files).Reset() && done;
 }
 
-// The dictionary of the global settings is complete, whatever the disk holds.
-std::string CheckStart(Panel& panel, const Outcome& outcome) {
-  if (outcome.memory_failed) return {};
-  for (const auto& row : SASM::DefaultMasterSettings()) {
-    if (!panel.manager->HasSetting(row.key, Master())) return row.key;
-  }
-  return panel.manager->GetDomains() ? "" : "no list of sites";
+// Whatever the disk holds.
+void ExpectStarted(Panel& panel, const Outcome& outcome) {
+  if (!outcome.memory_failed) panel.ExpectWhole();
 }
 
-std::string CheckChange(Panel& panel, const Outcome& outcome) {
-  if (outcome.memory_failed && !outcome.result) return {};
-  return panel.Number("klimit", "a.example") == 1024 ? "" : "not in memory";
+void ExpectChanged(Panel& panel, const Outcome& outcome) {
+  if (outcome.memory_failed && !outcome.result) return;
+  EXPECT_EQ(panel.Number("klimit", kA), 1024);
 }
 
-std::string CheckAdded(Panel& panel, const Outcome& outcome) {
-  if (outcome.memory_failed) return {};
+void ExpectAdded(Panel& panel, const Outcome& outcome) {
+  if (outcome.memory_failed) return;
   // A site is listed as soon as its own file is written.
-  const bool is_listed = std::ranges::count(panel.Sites(), "c.example") > 0;
-  const bool has_file =
-      outcome.after.contains(Home::SettingsFileOf("c.example"));
-  if (is_listed && !has_file) return "listed without a file";
-  return outcome.result && !is_listed ? "added, but not listed" : "";
+  const auto sites = panel.Sites();
+  const bool is_listed = std::ranges::count(sites, kNew) > 0;
+  EXPECT_TRUE(is_listed || !outcome.result);
+  EXPECT_TRUE(!is_listed || outcome.after.contains(Home::SettingsFileOf(kNew)));
 }
 
-std::string CheckRemoved(Panel& panel, const Outcome& outcome) {
-  const bool is_listed = std::ranges::count(panel.Sites(), "a.example") > 0;
-  const std::string file = Home::SettingsFileOf("a.example");
-  if (outcome.result) return is_listed ? "removed, but listed" : "";
-  const bool has_file = outcome.after.contains(file);
-  const bool has_storage =
-      outcome.after.contains(kStored + "a.example/one.sol");
-  return is_listed && has_storage && !has_file
-             ? "the settings went before the storage"
-             : "";
-}
-
-std::string CheckBlocked(Panel& panel, const Outcome& outcome) {
-  if (outcome.memory_failed) return {};
-  if (panel.Sites() != kBothSites) return "the list has changed";
-  for (const auto& site : kBothSites) {
-    if (panel.Number("klimit", site.c_str()) != -1)
-      return "not blocked: " + site;
+void ExpectRemoved(Panel& panel, const Outcome& outcome) {
+  const auto& after = outcome.after;
+  const bool settings_went_first =
+      after.contains(Home::StorageOf(kA) + "/one.sol") &&
+      !after.contains(Home::SettingsFileOf(kA));
+  if (outcome.result || settings_went_first) {
+    EXPECT_THAT(panel.Sites(), Not(Contains(kA)));
   }
-  const bool is_blocked = panel.Number("defaultklimit", Master().c_str()) == -1;
-  return is_blocked ? "" : "not blocked for others";
 }
 
-std::string CheckDeleted(Panel& panel, const Outcome& outcome) {
-  if (outcome.memory_failed) return {};
-  if (!panel.Sites().empty()) return "sites are listed";
-  const bool is_kept = panel.Number("defaultklimit", Master().c_str()) == 10;
-  return is_kept ? "" : "a global setting is lost";
+void ExpectBlocked(Panel& panel, const Outcome& outcome) {
+  if (outcome.memory_failed) return;
+  EXPECT_THAT(panel.Sites(), ElementsAre(kA, kB));
+  for (const char* site : {kA, kB}) EXPECT_EQ(panel.Number("klimit", site), -1);
+  EXPECT_EQ(panel.Number("defaultklimit", Panel::Master()), -1);
 }
 
+void ExpectDeleted(Panel& panel, const Outcome& outcome) {
+  if (outcome.memory_failed) return;
+  EXPECT_THAT(panel.Sites(), IsEmpty());
+  EXPECT_EQ(panel.Number("defaultklimit", Panel::Master()), 10);
+}
+
+const std::string kMaster = Home::MasterFile();
+const std::string kSettings = Home::kSettings;
+
+using On = Operation::On;
 const Operation kOperations[] = {
     {"first start",
-     false,
-     true,
+     On::kNothing,
      Start,
-     {".orbelline/Corvane_Player/tessary.example/"},
-     true,
-     CheckStart},
-    {"start", true, true, Start, {kMasterFile}, true, CheckStart},
+     ExpectStarted,
+     {".orbelline/Corvane_Player/tessary.example/"}},
+    {"start", On::kFiles, Start, ExpectStarted, {kMaster}},
     {"change a setting",
-     true,
-     false,
+     On::kPanel,
      ChangeSetting,
-     {Home::SettingsFileOf("a.example")},
-     true,
-     CheckChange},
+     ExpectChanged,
+     {Home::SettingsFileOf(kA)}},
     {"add a site",
-     true,
-     false,
+     On::kPanel,
      AddSite,
-     {kMasterFile, std::string(Home::kSettings) + "/#c.example/"},
-     true,
-     CheckAdded},
+     ExpectAdded,
+     {kMaster, kSettings + "/#c.example/"}},
     {"remove a site",
-     true,
-     false,
+     On::kPanel,
      RemoveSite,
-     {kMasterFile, std::string(Home::kSettings) + "/#a.example/",
-      kStored + "a.example/"},
-     true,
-     CheckRemoved},
+     ExpectRemoved,
+     {kMaster, kSettings + "/#a.example/", Home::StorageOf(kA) + "/"}},
     {"block storage for all sites",
-     true,
-     false,
+     On::kPanel,
      BlockStorageEverywhere,
-     {kMasterFile, Home::SettingsFileOf("a.example"),
-      Home::SettingsFileOf("b.example"), kStored + "a.example/",
-      kStored + "b.example/"},
-     true,
-     CheckBlocked},
+     ExpectBlocked,
+     {kMaster, Home::SettingsFileOf(kA), Home::SettingsFileOf(kB),
+      Home::StorageOf(kA) + "/", Home::StorageOf(kB) + "/"}},
     {"delete all",
-     true,
-     false,
+     On::kPanel,
      DeleteAll,
-     {std::string(Home::kSettings) + "/", kStored,
-      std::string(Home::kAssetCache) + "/", std::string(Home::kLicences) + "/"},
-     false,
-     CheckDeleted},
+     ExpectDeleted,
+     {kSettings + "/", Home::StorageOf(""), Home::kAssetCache, Home::kLicences},
+     false},
 };
 
 }  // namespace

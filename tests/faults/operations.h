@@ -3,26 +3,27 @@
 
 #include <span>
 
-#include "tests/faults/panel_home.h"
+#include "tests/faults/panel.h"
+#include "tests/support/temporary_home.h"
 
 struct Outcome {
   bool result;         // what the operation returned
   bool memory_failed;  // the fault was an allocation's
-  const Snapshot& before;
-  const Snapshot& after;
+  const TemporaryHome::Snapshot& after;
 };
 
 struct Operation {
+  enum class On { kNothing, kFiles, kPanel };
+
   const char* name;
-  bool has_panel_files;  // false: nothing is there yet
-  bool starts_panel;     // true: it is the start itself
-  bool (*run)(Panel* panel);
+  On on;  // kPanel: one that was started before
+  bool (*run)(Panel& panel);
+  // Expects what must hold in memory and on disk after a fault.
+  void (*check)(Panel& panel, const Outcome& outcome);
   // Beginnings of the paths that may change.
   std::vector<std::string> may_change;
   // True when nothing that is there before is lost by the operation itself.
-  bool keeps_settings;
-  // What must hold in memory and on disk after a fault; empty or a complaint.
-  std::string (*check)(Panel& panel, const Outcome& outcome);
+  bool keeps_settings = true;
 };
 
 [[nodiscard]] std::span<const Operation> AllOperations();

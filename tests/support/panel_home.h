@@ -1,22 +1,21 @@
 // A home with what the panel keeps in it.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
 #include "tests/support/temporary_home.h"
 
-// Fills a home as the player and the panel do, through the panel's own store,
-// and reads back what stands on disk. The store finds the home once for a
-// process, so a process can have one.
+// Fills a home as the player and the panel do, and reads back what stands on
+// disk.
 class PanelHome : public TemporaryHome {
  public:
   using Names = std::vector<std::string>;
 
-  // Known sites with default settings.
-  void AddSites(const Names& sites) const;
-  void AddLocations(const Names& locations) const;
+  // Default settings and a list of known sites that have theirs, or of trusted
+  // locations. A list takes the place of an earlier one.
+  void AddSites(const Names& sites);
+  void AddLocations(const Names& locations);
   // A file in the site's local storage; its name from the home.
   std::string AddData(const std::string& site, std::size_t bytes) const;
 
@@ -25,8 +24,13 @@ class PanelHome : public TemporaryHome {
   // is none, "no settings" when there is no file of settings.
   [[nodiscard]] std::string Stored(const std::string& site,
                                    const char* key) const;
-  // Every file: its bytes, and when it was written.
-  [[nodiscard]] std::map<std::string, std::string> Disk() const;
+  // As taken, with the time when each file was written behind its bytes.
+  [[nodiscard]] Snapshot Disk() const;
 
   static constexpr char kMaster[] = "";
+
+ private:
+  // Elements of lists.
+  std::string sites_;
+  std::string locations_;
 };

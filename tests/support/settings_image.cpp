@@ -17,36 +17,6 @@ Bytes BigEndian(std::uint64_t value, int size) {
 
 Bytes OfType(char type, const Bytes& value) { return Bytes(1, type) + value; }
 
-std::string Quoted(const SASM::SimpleString* text) {
-  return std::string("'") + text->c_str() + "'";
-}
-
-std::string ValueOf(const SASM::SettingDataItem& item);
-
-std::string ElementsOf(const SASM::SDIVector& array) {
-  std::string text;
-  for (unsigned int i = 0; i < array.count; ++i) {
-    text += (i ? " " : "") + Describe(*array.At(i));
-  }
-  return "[" + text + "]";
-}
-
-std::string ValueOf(const SASM::SettingDataItem& item) {
-  std::ostringstream text;
-  switch (item.type) {
-    case SASM::kSettingsDataTypeDouble:
-      text << item.value.number;
-      return text.str();
-    case SASM::kSettingsDataTypeBool:
-      return item.value.boolean ? "true" : "false";
-    case SASM::kSettingsDataTypeString:
-      return Quoted(item.value.string);
-    case SASM::kSettingsDataTypeArray:
-      return ElementsOf(*item.value.array);
-  }
-  return "?" + std::to_string(item.type);
-}
-
 }  // namespace
 
 Bytes Hex(const std::string& digits) {
@@ -95,7 +65,13 @@ Bytes File(const std::string& name, const Bytes& entries) {
   return Framed(Body(name, entries));
 }
 
-Bytes DefaultMasterFile() {
+Bytes Flags(const std::vector<std::string>& names) {
+  Bytes elements;
+  for (const std::string& name : names) elements += Element(name, Bool(1));
+  return elements;
+}
+
+Bytes DefaultMasterFile(const Bytes& sites, const Bytes& locations) {
   return File("settings", Entry("autoUpdateInterval", Number(14)) +
                               Entry("crossdomainAllow", Bool(0)) +
                               Entry("crossdomainAlways", Bool(1)) +
@@ -104,8 +80,8 @@ Bytes DefaultMasterFile() {
                               Entry("defaultalways", Bool(0)) +
                               Entry("secureCrossDomainCacheSize", Number(-1)) +
                               Entry("allowThirdPartyLSOAccess", Bool(1)) +
-                              Entry("domains", Array()) +
-                              Entry("trustedPaths", Array()) +
+                              Entry("domains", Array(sites)) +
+                              Entry("trustedPaths", Array(locations)) +
                               Entry("defaultklimit", Number(100)));
 }
 
@@ -116,15 +92,39 @@ Bytes DefaultSiteFile(const std::string& domain) {
                   Entry("allow", Bool(0)));
 }
 
+std::string Value(const SASM::SettingDataItem& item) {
+  std::ostringstream text;
+  switch (item.type) {
+    case SASM::kSettingsDataTypeDouble:
+      text << item.value.number;
+      break;
+    case SASM::kSettingsDataTypeBool:
+      return item.value.boolean ? "true" : "false";
+    case SASM::kSettingsDataTypeString:
+      text << "'" << item.value.string->c_str() << "'";
+      break;
+    case SASM::kSettingsDataTypeArray:
+      text << "[";
+      for (unsigned int i = 0; i < item.value.array->count; ++i) {
+        text << (i ? " " : "") << Describe(*item.value.array->At(i));
+      }
+      text << "]";
+      break;
+    default:
+      text << "?" << item.type;
+  }
+  return text.str();
+}
+
 std::string Describe(const SASM::SettingDataItem& item) {
-  return std::string(item.name.c_str()) + "=" + ValueOf(item);
+  return std::string(item.name.c_str()) + "=" + Value(item);
 }
 
 std::string Describe(const SASM::SettingsDictionary& dictionary) {
   std::string text;
   for (const auto& entry : dictionary) {
     text += (text.empty() ? "" : " ") + std::string(entry.key.c_str()) + "=" +
-            ValueOf(entry.value);
+            Value(entry.value);
   }
   return text;
 }

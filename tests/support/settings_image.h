@@ -36,11 +36,16 @@ Bytes Body(const std::string& name, const Bytes& entries);
 Bytes Framed(const Bytes& body);
 Bytes File(const std::string& name, const Bytes& entries = {});
 
-// What a first start writes.
-Bytes DefaultMasterFile();
+// An element "true" for each name.
+Bytes Flags(const std::vector<std::string>& names);
+
+// What a first start writes; with elements for its lists.
+Bytes DefaultMasterFile(const Bytes& sites = {}, const Bytes& locations = {});
 // What a new site is given.
 Bytes DefaultSiteFile(const std::string& domain);
 
+// "1.5", "true", "'x'", "[e=true f='y']", "?7".
+std::string Value(const SASM::SettingDataItem& item);
 // In dictionary order: "k=1.5 b=true s='x' a=[e=true f='y'] u=?7".
 std::string Describe(const SASM::SettingsDictionary& dictionary);
 std::string Describe(const SASM::SettingDataItem& item);

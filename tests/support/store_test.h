@@ -9,6 +9,7 @@
 #include "store/setting_keys.h"
 #include "store/settings_manager.h"
 #include "tests/support/home_file_manager.h"
+#include "tests/support/panel_home.h"
 #include "tests/support/settings_image.h"
 
 class StoreTest : public testing::Test {
@@ -18,16 +19,10 @@ class StoreTest : public testing::Test {
     manager_.reset();
     manager_.emplace(&files_);
   }
-  // The master settings, with those sites listed, each with its files.
-  void Begin(std::initializer_list<std::string> sites) {
-    std::string elements;
-    for (const std::string& site : sites) {
-      elements += image::Element(site, image::Bool(1));
-      home_.Write(TemporaryHome::SettingsFileOf(site),
-                  image::DefaultSiteFile(site));
-      home_.Write(Storage(site) + "/data", "some data");
-    }
-    WriteMaster(image::Entry("domains", image::Array(elements)));
+  // With those sites listed, each with its files.
+  void Begin(const PanelHome::Names& sites) {
+    home_.AddSites(sites);
+    for (const std::string& site : sites) home_.AddData(site, 10);
     Start();
   }
   void WriteMaster(const std::string& entries) const {
@@ -35,7 +30,7 @@ class StoreTest : public testing::Test {
   }
 
   static std::string Storage(const std::string& site) {
-    return std::string(TemporaryHome::kSharedObjects) + "/XYZ/" + site;
+    return TemporaryHome::StorageOf(site);
   }
   std::string Master() const { return home_.Read(TemporaryHome::MasterFile()); }
   std::string SiteFile(const std::string& site) const {
@@ -67,7 +62,7 @@ class StoreTest : public testing::Test {
     return Held(key, SASM::SettingsManager::MasterDomain().c_str());
   }
 
-  TemporaryHome home_;
+  PanelHome home_;
   HomeFileManager files_{home_};
   std::optional<SASM::SettingsManager> manager_;
 };

@@ -55,10 +55,40 @@ std::vector<std::string> TemporaryHome::List() const {
   return names;
 }
 
+TemporaryHome::Snapshot TemporaryHome::Take() const {
+  Snapshot snapshot;
+  for (const std::string& name : List()) {
+    if (fs::is_directory(path_ / name)) {
+      snapshot[name + "/"];
+    } else {
+      snapshot[name] = Read(name);
+    }
+  }
+  return snapshot;
+}
+
+void TemporaryHome::Restore(const Snapshot& snapshot) const {
+  if (Take() == snapshot) return;
+  for (const auto& entry : fs::directory_iterator(path_)) {
+    fs::remove_all(entry.path());
+  }
+  for (const auto& [name, bytes] : snapshot) {
+    if (name.ends_with('/')) {
+      fs::create_directories(path_ / name);
+    } else {
+      Write(name, bytes);
+    }
+  }
+}
+
 std::string TemporaryHome::MasterFile() {
   return std::string(kSettings) + "/settings.sol";
 }
 
 std::string TemporaryHome::SettingsFileOf(const std::string& domain) {
   return std::string(kSettings) + "/#" + domain + "/settings.sol";
+}
+
+std::string TemporaryHome::StorageOf(const std::string& site) {
+  return std::string(kSharedObjects) + "/QK5SFBDP/" + site;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,12 @@ class TemporaryHome {
   // All files and directories, sorted.
   [[nodiscard]] std::vector<std::string> List() const;
 
+  // Each name to its bytes; that of a directory ends in "/".
+  using Snapshot = std::map<std::string, std::string>;
+  [[nodiscard]] Snapshot Take() const;
+  // Makes the home hold that and nothing else.
+  void Restore(const Snapshot& snapshot) const;
+
   // Where the panel keeps things.
   static constexpr char kSettings[] =
       ".orbelline/Corvane_Player/tessary.example/support/corvaneplayer/sys";
@@ -34,6 +41,8 @@ class TemporaryHome {
   static constexpr char kLicences[] = ".tessary/Corvane_Player/APSPrivateData2";
   [[nodiscard]] static std::string MasterFile();
   [[nodiscard]] static std::string SettingsFileOf(const std::string& domain);
+  // The directory of a site's local storage.
+  [[nodiscard]] static std::string StorageOf(const std::string& site);
 
  private:
   std::filesystem::path path_;
