@@ -217,6 +217,11 @@ bool Faults::Fail(const Operation& operation, const Fault& fault, int n,
     if (memory_failed && operation.keeps_settings) {
       EXPECT_EQ(CountTorn(before, after, complete), 0);
     }
+    const bool is_told =
+        operation.tells && (fault.calls & faults::kChangesDisk);
+    if (fault.effect == Effect::kShortWrite || (is_told && result)) {
+      EXPECT_EQ(after, complete);
+    }
     operation.check(panel, {result, memory_failed, after});
   }
   EXPECT_EQ(faults::LiveAllocations(), allocations);

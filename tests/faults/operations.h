@@ -22,6 +22,8 @@ struct Operation {
   void (*check)(Panel& panel, const Outcome& outcome);
   // Beginnings of the paths that may change.
   std::vector<std::string> may_change;
+  // True when the result tells whether the disk was changed as it was meant.
+  bool tells = true;
   // True when nothing that is there before is lost by the operation itself.
   bool keeps_settings = true;
 };

@@ -25,7 +25,7 @@ namespace {
 // How often to remove under attack: REMOVALS for a long run by hand.
 int RemovalCount() {
   const char* wanted = std::getenv("REMOVALS");
-  return wanted ? std::atoi(wanted) : 500;
+  return wanted ? std::atoi(wanted) : 1500;
 }
 
 // The number of descriptors a removal may need, whatever the tree.
