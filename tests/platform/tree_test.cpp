@@ -141,7 +141,7 @@ TEST_F(Tree, NeedsLittleStackAndFewDescriptorsHoweverDeep) {
   Link("../../far/d", "d/x/b");
   home_.Write("d/y/two", "01");
   const LoweredLimit descriptors(RLIMIT_NOFILE, 12);
-  const LoweredLimit stack(RLIMIT_STACK, 256 * 1024);
+  const LoweredLimit stack(RLIMIT_STACK, 256u << 10);
   EXPECT_EQ(SizeOf("d"), Own("d") + Own("d/x") + Own("d/y") + 3 + 2 * size);
   EXPECT_TRUE(Remove("far/d"));
   EXPECT_TRUE(home_.Has("far/precious") && !home_.Has("far/d"));

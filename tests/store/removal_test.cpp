@@ -96,7 +96,7 @@ TEST_F(StoreRemoval, ByAgeForgetsTheGlobalSettings) {
   fs::last_write_time(home_ / (Storage("old") + "/data"), then);
   const auto remove = [this](bool settings, bool storage) {
     return manager_->RemoveAllSettingsAndOrLocalStorageForTimeRange(
-        settings, storage, 3600, 4 * 3600);
+        settings, storage, 3600, 14400);
   };
   EXPECT_TRUE(remove(false, true));
   EXPECT_TRUE(HasData("new") && !HasData("old") && HasSettings("old"));
