@@ -33,11 +33,8 @@ class ShowCommand : public SettingsProgramTest {
     home_.Write(Home::SettingsFileOf(site), File("n", entries));
   }
   void StoreMaster(const Bytes& entries) const {
-    Bytes sites;
-    for (const char* site :
-         {"gone", "block", "日\x1B", "ask", "empty", "\xFF"}) {
-      sites += Element(site, Bool(1));
-    }
+    const Bytes sites =
+        Flags({"gone", "block", "日\x1B", "ask", "empty", "\xFF"});
     home_.Write(Home::MasterFile(),
                 File("n", Entry("domains", Array(sites)) + entries));
   }
@@ -80,7 +77,7 @@ Trusted File or Folder Location
 }
 
 TEST_F(ShowCommand, MeasuresTheDataOfSites) {
-  const std::string data = std::string(Home::kSharedObjects) + "/X/ask";
+  const std::string data = Home::StorageOf("ask");
   home_.Write(data + "/data", std::string(1500, 'x'));
   struct stat info = {};
   ASSERT_EQ(stat((home_ / data).c_str(), &info), 0);
@@ -164,7 +161,7 @@ TEST_F(ShowCommand, NamesWhatIsDamagedAndShowsTheRest) {
 
 TEST_F(ShowCommand, ChangesNothing) {
   home_.Write(Home::SettingsFileOf("block"), "garbage");
-  home_.Write(std::string(Home::kSharedObjects) + "/ABC/a/b/data", "x");
+  home_.Write(Home::StorageOf("ask") + "/data", "x");
   // Reading updates a time of access that is older than the last change.
   (void)RunCommand("find ~ -type f -exec touch -a -d @1 {} +");
   const std::string state =
