@@ -110,7 +110,8 @@ std::string Content(const Snapshot& snapshot, const std::string& path) {
 std::string ChangedOutside(const Operation& operation, const Snapshot& before,
                            const Snapshot& after) {
   for (const Snapshot* side : {&before, &after}) {
-    for (const auto& [path, content] : *side) {
+    for (const auto& entry : *side) {
+      const std::string& path = entry.first;
       const bool may_change = std::ranges::any_of(
           operation.may_change,
           [&](const auto& beginning) { return path.starts_with(beginning); });
