@@ -44,13 +44,13 @@ test_packages=(
   libgail-common
   libgmock-dev
   libgtest-dev
-  libxtst-dev
   lintian
   locales
   man-db
   openbox
   python3
   shellcheck
+  xdotool
 )
 
 # Prints those of the named packages that are not installed.

@@ -1,13 +1,9 @@
 #include <clocale>
 #include <cstdlib>
-#include <utility>
 
 #include "app/dialogs.h"
 #include "app/widget_helpers.h"
-#include "strings/languages.h"
 #include "tests/app/panel_test.h"
-
-using NCPStrings::Language;
 
 namespace {
 
@@ -17,48 +13,6 @@ constexpr int kLargestHeight = 600;
 // What the toolkit brings itself, and what people use.
 constexpr char kBareTheme[] = "/dev/null";
 constexpr char kUsualTheme[] = "/usr/share/themes/Adwaita/gtk-2.0/gtkrc";
-
-// The locale is used for the toolkit's own texts, where the system has it.
-struct LayoutCase {
-  const char* locale;
-  Language language;
-  GtkTextDirection direction = GTK_TEXT_DIR_LTR;
-};
-
-constexpr LayoutCase kCases[] = {
-    {"en_US.UTF-8", Language::kEnglish},
-    {"cs_CZ.UTF-8", Language::kCzech},
-    {"de_DE.UTF-8", Language::kGerman},
-    {"es_ES.UTF-8", Language::kSpanish},
-    {"fr_FR.UTF-8", Language::kFrench},
-    {"it_IT.UTF-8", Language::kItalian},
-    {"ja_JP.UTF-8", Language::kJapanese},
-    {"ko_KR.UTF-8", Language::kKorean},
-    {"nl_NL.UTF-8", Language::kDutch},
-    {"pl_PL.UTF-8", Language::kPolish},
-    {"pt_BR.UTF-8", Language::kPortuguese},
-    {"ru_RU.UTF-8", Language::kRussian},
-    {"sv_SE.UTF-8", Language::kSwedish},
-    {"tr_TR.UTF-8", Language::kTurkish},
-    {"zh_CN.UTF-8", Language::kSimplifiedChinese},
-    {"zh_TW.UTF-8", Language::kTraditionalChinese},
-    {"he_IL.UTF-8", Language::kEnglish, GTK_TEXT_DIR_RTL},
-};
-
-void PrintTo(const LayoutCase& layout, std::ostream* out) {
-  *out << layout.locale;
-}
-
-class FixedLanguage : public LocalizedStringManager {
- public:
-  explicit FixedLanguage(Language language) : language_(language) {}
-  int GetCurrentSystemLanguageID() override {
-    return static_cast<int>(language_);
-  }
-
- private:
-  Language language_;
-};
 
 void ExpectTextFits(GtkLabel* label) {
   GtkAllocation room;
@@ -101,19 +55,17 @@ void ExpectNothingClipped(GtkWidget* widget, gpointer) {
 }  // namespace
 
 class LayoutTest : public PanelTest,
-                   public testing::WithParamInterface<LayoutCase> {
+                   public testing::WithParamInterface<const char*> {
  protected:
   LayoutTest() { home_.AddSites({"example.com", "shop.example.com"}); }
 
-  // The toolkit takes its own texts from the locale when it starts.
   void Open(const char* theme) {
+    const std::string locale = GetParam();
     setenv("GTK2_RC_FILES", theme, 1);
-    if (std::setlocale(LC_ALL, GetParam().locale)) {
-      setenv("LC_ALL", GetParam().locale, 1);
-    }
-    gtk_widget_set_default_direction(GetParam().direction);
-    static FixedLanguage language(GetParam().language);
-    delete std::exchange(NewPanelForProcess()->strings, &language);
+    setenv("LC_ALL", (locale + ".UTF-8").c_str(), 1);
+    ASSERT_TRUE(std::setlocale(LC_ALL, ""))
+        << "there are no locales: run these tests as ./test does";
+    if (locale == "he_IL") gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
     Start();
   }
 
@@ -128,13 +80,14 @@ class LayoutTest : public PanelTest,
     ExpectNothingClipped(window, nullptr);
   }
 
-  void CheckAll();
   void CheckDialog(const char* id) {
     GtkWidget* dialog = Widget(id);
     gtk_widget_show(dialog);
     Check(dialog);
     gtk_widget_hide(dialog);
   }
+
+  void CheckAll();
 };
 
 void LayoutTest::CheckAll() {
@@ -171,7 +124,10 @@ TEST_P(LayoutTest, ShowsEveryTextWholeWithoutATheme) {
   CheckAll();
 }
 
-INSTANTIATE_TEST_SUITE_P(, LayoutTest, testing::ValuesIn(kCases),
-                         [](const auto& param) {
-                           return std::string(param.param.locale).substr(0, 5);
-                         });
+// What is not translated is English, whichever way it is read.
+INSTANTIATE_TEST_SUITE_P(
+    , LayoutTest,
+    testing::Values("en_US", "cs_CZ", "de_DE", "es_ES", "fr_FR", "it_IT",
+                    "ja_JP", "ko_KR", "nl_NL", "pl_PL", "pt_BR", "ru_RU",
+                    "sv_SE", "tr_TR", "zh_CN", "zh_TW", "he_IL"),
+    [](const auto& locale) { return std::string(locale.param); });

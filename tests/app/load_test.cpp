@@ -22,23 +22,6 @@ class LoadTest : public PanelTest {
     gtk_tree_path_free(last);
     Settle();
   }
-
-  // What the name's cell shows.
-  std::string ShownName(const char* tree_view, const char* column, int row) {
-    GtkTreeView* view = get_tree_view(panel_->builder, tree_view);
-    GtkTreeModel* model = gtk_tree_view_get_model(view);
-    GtkTreeIter iter;
-    EXPECT_TRUE(gtk_tree_model_iter_nth_child(model, &iter, nullptr, row));
-    GtkTreeViewColumn* title = get_column(panel_->builder, column);
-    gtk_tree_view_column_cell_set_cell_data(title, model, &iter, FALSE, FALSE);
-    GList* renderers = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(title));
-    char* text = nullptr;
-    g_object_get(renderers->data, "text", &text, nullptr);
-    g_list_free(renderers);
-    std::string shown = text;
-    g_free(text);
-    return shown;
-  }
 };
 
 TEST_F(LoadTest, TenThousandSites) {
@@ -83,10 +66,6 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
     GoToPage(page);
     for (const SitePermission& list : kSitePermissions) ShowList(list);
   }
-  EXPECT_EQ(ShownName("site_storage_treeview", "site_storage_site_column", 0),
-            "caf\xef\xbf\xbd.example");
-  EXPECT_EQ(ShownName("site_storage_treeview", "site_storage_site_column", 1),
-            "<b>&amp;</i>");
   Select("site_storage_treeview", {0, 1, 2, 3, 4, 5});
   ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysDeny);
   for (const std::string& site : sites)
@@ -114,8 +93,7 @@ TEST_F(LoadTest, LongestNames) {
 
   ShowList(kSitePermissions[kStorageMode]);
   Click("add_site_storage_setting_button");
-  Type("new_site_entry", longest);
-  Settle();
+  gtk_entry_set_text(GTK_ENTRY(Widget("new_site_entry")), longest.c_str());
   Click("new_site_add_button");
   EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains), "[]");
 }

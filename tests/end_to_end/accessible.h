@@ -1,50 +1,36 @@
-// What an assistive technology sees of a program.
+// What an assistive technology sees of the programs on a desktop.
 #pragma once
 
 #include <gio/gio.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
-// A rectangle of the screen, in pixels.
-struct ScreenBox {
-  int x = 0;
-  int y = 0;
-  int width = 0;
-  int height = 0;
-};
-
 // A node of the accessibility tree, asked anew over the accessibility bus for
-// everything. What is asked of a node that has gone, or of none, is empty or
-// false.
+// everything. What is asked of a node that has gone is empty or false.
 class Accessible {
  public:
   // The numbers are those of the accessibility protocol.
   enum State {
     kActive = 1,
     kChecked = 4,
-    kFocused = 12,
     kSelected = 23,
     kSensitive = 24,
     kShowing = 25,
   };
 
+  // The desktop, whose children are programs.
   Accessible() = default;
 
-  // The program with that process id, on the accessibility bus of the session
-  // bus in the environment; none as long as it has not registered there.
-  [[nodiscard]] static Accessible OfProgram(int process_id);
-
-  [[nodiscard]] bool Exists() const { return bus_ != nullptr; }
   [[nodiscard]] std::string Name() const;
   // "push button".
   [[nodiscard]] std::string Role() const;
   [[nodiscard]] bool Is(State state) const;
-  [[nodiscard]] std::vector<Accessible> Children() const;
-  [[nodiscard]] ScreenBox Place() const;
+  // The middle, as "x y", in pixels of the screen.
+  [[nodiscard]] std::string Place() const;
 
+  [[nodiscard]] std::vector<Accessible> Children() const;
   // Those below that fit, each before its own children.
   using Condition = std::function<bool(const Accessible&)>;
   [[nodiscard]] std::vector<Accessible> FindAll(const Condition& fits) const;
@@ -54,19 +40,15 @@ class Accessible {
   [[nodiscard]] bool Focus() const;
 
  private:
-  using Bus = std::shared_ptr<GDBusConnection>;
+  Accessible(const char* program, const char* path)
+      : program_(program), path_(path) {}
 
-  Accessible(Bus bus, std::string program, std::string path)
-      : bus_(std::move(bus)),
-        program_(std::move(program)),
-        path_(std::move(path)) {}
+  // Takes the values of the answer, whose format is as of g_variant_get().
+  // False, and no value is taken, when there is no such answer.
+  template <typename... Values>
+  bool Ask(const char* interface, const char* method, GVariant* arguments,
+           const char* format, Values*... values) const;
 
-  // Owned by the caller; null after an error. `arguments` may be null.
-  [[nodiscard]] GVariant* NewAnswer(const char* interface, const char* method,
-                                    GVariant* arguments,
-                                    const char* type) const;
-
-  Bus bus_;
-  std::string program_;
-  std::string path_;
+  std::string program_ = "org.a11y.atspi.Registry";
+  std::string path_ = "/org/a11y/atspi/accessible/root";
 };

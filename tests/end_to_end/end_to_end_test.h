@@ -1,62 +1,68 @@
 // The real program in a real window.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <memory>
+#include <functional>
+#include <future>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "tests/end_to_end/accessible.h"
-#include "tests/end_to_end/desktop.h"
 #include "tests/support/panel_home.h"
+#include "tests/support/program_run.h"
 
-// Main window and dialogs are known by their titles. Verbs wait for what they
-// need and fail the test when it does not come.
+// Needs a desktop of its own. Main window and dialogs are known by their
+// titles. Verbs wait for what they need and fail the test when it does not
+// come. Any warning of the toolkit ends the program.
 class EndToEndTest : public testing::Test {
  protected:
   static constexpr char kMainWindow[] = "Tessary Corvane Player Preferences";
-
-  // A program that still runs is closed by its button, and must then end
-  // well, having written nothing.
-  ~EndToEndTest() override;
+  static constexpr const auto& kMaster = PanelHome::kMaster;
 
   // Starts the program and sees its main window.
-  void Start(const std::vector<std::string>& options = {});
+  void Start(const std::string& options = "");
   // Waits until the window of that title is active; it becomes the one that
   // the other verbs mean.
   void See(const std::string& title);
-  void SeeNoMore(const std::string& title);
 
-  [[nodiscard]] const Accessible& Window() const { return window_; }
-  // Something that shows in the window seen last.
-  [[nodiscard]] Accessible Get(const std::string& role,
-                               const std::string& name);
-  // Push buttons, radio buttons, boxes and page tabs.
-  void Click(const std::string& name, const std::string& role = "push button");
-  // Gives the keyboard to it.
-  void Focus(const std::string& role, const std::string& name);
-  void ClickAt(const Accessible& place, const char* modifier = nullptr);
-  void Press(const std::string& key) { desktop_.Press(key); }
-  void Type(const std::string& text) { desktop_.Type(text); }
+  // Something with one of the roles that shows in the window seen last; a
+  // menu has a window of its own.
+  using Roles = std::set<std::string>;
+  [[nodiscard]] Accessible Get(const Roles& roles, const std::string& name);
+  // Whatever can be clicked on: buttons, boxes, page tabs, column headers.
+  void Click(const std::string& name);
+  // By the mouse.
+  static void ClickAt(const Accessible& place);
+  // Clicks on the cells with those names, with Ctrl on all but the first.
+  void Select(const std::vector<std::string>& rows);
+  void ExpectSelected(const std::string& row);
+  // Keys by the names of their symbols: "alt+F4 Return".
+  static void Press(const std::string& keys);
+  static void Type(const std::string& text);
 
   // What comes to stand on disk.
   void ExpectStored(const std::string& site, const char* key,
                     const std::string& value);
-  // Closes the main window by its button.
-  void Close();
-  void ExpectQuietEnd();
+  // Waits for the end of a program that has nothing to complain about but, in
+  // whole lines, what matches the pattern.
+  void ExpectEnd(const char* errors = "");
+  // Closes the main window by its button, and expects the end.
+  void Close(const char* errors = "");
 
-  [[nodiscard]] static std::string Program();
+  // A program that still runs is closed.
+  void TearDown() override;
 
-  Desktop desktop_;
+  // Looks again and again, until it holds (true) or half a minute is over.
+  [[nodiscard]] static bool Eventually(const std::function<bool()>& condition);
+
   PanelHome home_;
-  std::unique_ptr<Process> program_;
-  // What the program may write to standard error: the start of every line.
-  std::string expected_errors_;
+  Accessible window_;
 
  private:
-  [[nodiscard]] Accessible ShownWindow(const std::string& title);
+  [[nodiscard]] static std::vector<Accessible> ShownWindows(
+      const std::string& title);
 
-  Accessible window_;
+  std::future<ProgramRun> program_;
 };

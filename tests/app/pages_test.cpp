@@ -1,0 +1,72 @@
+// What the pages do that does not show on a screen, or only for a while.
+#include "app/notebook_pages.h"
+#include "store/setting_keys.h"
+#include "tests/app/panel_test.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PagesTest : public PanelTest {
+ protected:
+  PagesTest() { home_.AddSites({"a.example", "b.example"}); }
+
+  bool IsUsable(const char* widget) {
+    return gtk_widget_get_sensitive(Widget(widget));
+  }
+};
+
+TEST_F(PagesTest, FillingAPageWritesNothing) {
+  Start();
+  Choose("storage_prompt_radiobutton");
+  GoToPage(kPrivacyPage);
+  Choose("site_privacy_always_deny_rbutton");
+  GoToPage(kPlaybackPage);
+  Choose("site_p2p_always_deny_rbutton");
+  const auto before = home_.Disk();
+  for (const int page : {0, 1, 2, 3, 0, 3, 1, 2}) GoToPage(page);
+  Settle();
+  EXPECT_EQ(home_.Disk(), before);
+}
+
+// What is changed on another page is stored at once, but shown in its turn.
+TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
+  Start("privacy");
+  EXPECT_THAT(Column("site_storage_list", 0), IsEmpty());
+  GoToPage(kStoragePage);
+  EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Allow"));
+  GoToPage(kAdvancedPage);
+  Select("site_storage_treeview", {1});
+  ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysDeny);
+  EXPECT_EQ(home_.Stored("b.example", SASM::kStorageLimit), "-1");
+  EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Allow"));
+  EXPECT_TRUE(IsUsable("remove_site_storage_setting_button"));
+  GoToPage(kStoragePage);
+  EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Block"));
+}
+
+TEST_F(PagesTest, BlockingPeersOverridesSitesWithoutChangingThem) {
+  Start("playback");
+  Select("site_p2p_treeview", {1});
+  ChooseInList(kPeerAssistedMode,
+               PermissionSetting::kPermissionStateAlwaysAllow);
+  const struct {
+    const char* choice;
+    const char* disallowed;
+    Names shown;
+  } cases[] = {
+      {"site_p2p_always_deny_rbutton", "true", {"Block", "Block"}},
+      {"site_p2p_always_ask_rbutton", "false", {"Ask me", "Allow"}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.choice);
+    Choose(c.choice);
+    EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDisallowP2PUplink),
+              c.disallowed);
+    EXPECT_EQ(home_.Stored("b.example", SASM::kP2PAlways), "true");
+    EXPECT_EQ(Column("site_p2p_list", 1), c.shown);
+    for (const char* widget : {"add_site_p2p_setting_button",
+                               "site_p2p_treeview", "site_p2p_button"}) {
+      EXPECT_EQ(IsUsable(widget), std::string(c.disallowed) == "false");
+    }
+  }
+}

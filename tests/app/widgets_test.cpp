@@ -1,0 +1,90 @@
+#include "app/dialogs.h"
+#include "app/list_sorting.h"
+#include "app/widget_helpers.h"
+#include "tests/app/panel_test.h"
+
+class WidgetsTest : public PanelTest {
+ protected:
+  WidgetsTest() { Start(); }
+
+  std::string LabelAfter(const char* text, const char* tag) {
+    constexpr int kNoSuchText = 1;
+    set_label_text(panel_, "label12", kNoSuchText, text, tag);
+    return gtk_label_get_label(GTK_LABEL(Widget("label12")));
+  }
+
+  static std::string TextOf(GtkWidget* message_dialog) {
+    char* message = nullptr;
+    g_object_get(message_dialog, "text", &message, nullptr);
+    std::string text = message;
+    g_free(message);
+    return text;
+  }
+
+  int WidthOf(const char* widget) {
+    int width = 0;
+    gtk_widget_get_size_request(Widget(widget), &width, nullptr);
+    return width;
+  }
+};
+
+TEST_F(WidgetsTest, HeadingsEndInNoColon) {
+  EXPECT_EQ(LabelAfter("Updates:", "b"), "<b>Updates</b>");
+  EXPECT_EQ(LabelAfter("Updates", "b"), "<b>Updates</b>");
+  EXPECT_EQ(LabelAfter("Updates:", "i"), "<i>Updates:</i>");
+  EXPECT_EQ(LabelAfter("Updates:", nullptr), "Updates:");
+  EXPECT_EQ(LabelAfter(nullptr, "b"), "Updates:");
+}
+
+TEST_F(WidgetsTest, LinksLeadToTheMaker) {
+  for (const char* button :
+       {"privacy_linkbutton", "private_browsing_linkbutton", "p2p_linkbutton",
+        "drm_linkbutton", "compat_linkbutton"}) {
+    EXPECT_THAT(gtk_link_button_get_uri(GTK_LINK_BUTTON(Widget(button))),
+                testing::StartsWith("http://www.tessary.example/go/"))
+        << button;
+  }
+}
+
+TEST_F(WidgetsTest, KnowsWhatIsNoPermission) {
+  for (const int value : {0, 4, -1}) {
+    const auto state = static_cast<PermissionState>(value);
+    EXPECT_STREQ(permission_state_text(panel_, state), "Unknown");
+    EXPECT_STREQ(permission_state_icon(state), "icon_corvane_unknown");
+  }
+}
+
+TEST_F(WidgetsTest, ErrorDialogsShowWhatTheyAreGiven) {
+  EXPECT_EQ(TextOf(show_error_dialog(nullptr, nullptr, nullptr, nullptr)),
+            "Error");
+  GtkWidget* dialog =
+      show_error_dialog(GTK_WINDOW(panel_->window), "Title", "Lost: %s.",
+                        g_error_new(G_FILE_ERROR, 0, "%%s <b>"));
+  EXPECT_EQ(TextOf(dialog), "Lost: %s <b>.");
+  EXPECT_STREQ(gtk_window_get_title(GTK_WINDOW(dialog)), "Title");
+  EXPECT_EQ(TextOf(show_error_dialog(nullptr, "", "Lost: %s.", nullptr)),
+            "Lost: .");
+}
+
+// The width a label wraps at is that of its first allocation, less a little.
+TEST_F(WidgetsTest, WrappedLabelsKeepTheirFirstWidth) {
+  const int first = WidthOf("storage_explanatory_label");
+  EXPECT_GT(first, 100);
+  gtk_window_resize(GTK_WINDOW(panel_->window), 900, 700);
+  Settle();
+  EXPECT_EQ(WidthOf("storage_explanatory_label"), first);
+}
+
+TEST(DomainOrder, ReadsComponentsFromTheLast) {
+  const struct {
+    const char* domain;
+    const char* reversed;
+  } cases[] = {{"shop.example.com", "com.example.shop"},
+               {"localhost", "localhost"},
+               {".a..b.", "b.a"},
+               {"...", ""},
+               {"", ""}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(reverse_domain_components(c.domain), c.reversed) << c.domain;
+  }
+}

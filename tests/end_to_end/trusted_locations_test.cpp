@@ -1,0 +1,83 @@
+#include "tests/end_to_end/end_to_end_test.h"
+#include "tests/support/settings_image.h"
+
+class TrustedLocationsTest : public EndToEndTest {
+ protected:
+  static constexpr char kLocations[] = "Trusted Location Settings";
+
+  void Open() {
+    Start("-p advanced");
+    Click("Trusted Location Settings…");
+    See(kLocations);
+  }
+
+  void ExpectLocations(const std::string& locations) {
+    ExpectStored(kMaster, "trustedPaths", locations);
+  }
+
+  void AddHomeFolder() {
+    Click("Add Folder…");
+    See("Choose the trusted directory");
+    Press("alt+Home");
+    (void)Get({"toggle button"}, home_.Path().filename());
+    Click("Open");
+    See(kLocations);
+  }
+
+  void Edit(const std::string& row, const std::string& text) {
+    Select({row});
+    Press("Return");
+    Type(text);
+    Press("Return");
+  }
+};
+
+TEST_F(TrustedLocationsTest, AreAddedEditedAndRemoved) {
+  const std::string home = home_.Path();
+  home_.AddLocations({"/a", "/c", "/d"});
+  Open();
+  AddHomeFolder();
+  AddHomeFolder();
+  ExpectLocations("[/a /c /d " + home + " " + home + "]");
+  Edit("/a", "/b");
+  ExpectLocations("[/b /c /d " + home + " " + home + "]");
+  Select({"/b", "/d"});
+  Press("Delete");
+  ExpectLocations("[/c " + home + " " + home + "]");
+}
+
+// The rows then stand in another order than the stored list.
+TEST_F(TrustedLocationsTest, TheRowIsMeantInASortedList) {
+  home_.AddLocations({"/b", "/d", "/a", "/b", "/c"});
+  Open();
+  // Descending.
+  for (int i = 0; i < 2; ++i) Click("Trusted File or Folder Location");
+  Edit("/c", "/e");
+  ExpectLocations("[/b /d /a /b /e]");
+  Select({"/e", "/d", "/b"});
+  Click("Remove");
+  ExpectLocations("[/a /b]");
+}
+
+// Bytes that are no text are shown replaced; an edit that leaves the row as
+// it is shown must not write the replacement.
+TEST_F(TrustedLocationsTest, KeepsBytesThatAreNoText) {
+  home_.AddLocations({"/caf\xe9", "/b"});
+  Open();
+  Select({"/caf\xef\xbf\xbd"});
+  Press("Return Return");
+  Select({"/b"});
+  Press("Delete");
+  ExpectLocations("[/caf\xe9]");
+}
+
+// Another type under the key is no list: nothing to show, nothing to change.
+TEST_F(TrustedLocationsTest, LeavesAloneWhatIsNoList) {
+  home_.Write(
+      PanelHome::MasterFile(),
+      image::File("settings", image::Entry("trustedPaths", image::Number(7))));
+  Open();
+  AddHomeFolder();
+  Close();
+  EXPECT_EQ(home_.Stored(kMaster, "trustedPaths"), "7");
+}
