@@ -2,6 +2,7 @@
 #include "app/notebook_pages.h"
 #include "store/setting_keys.h"
 #include "tests/app/panel_test.h"
+#include "tests/support/settings_image.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -15,13 +16,15 @@ class PagesTest : public PanelTest {
   }
 };
 
+// Showing what is stored presses buttons, as a user does.
 TEST_F(PagesTest, FillingAPageWritesNothing) {
-  Start();
-  Choose("storage_prompt_radiobutton");
-  GoToPage(kPrivacyPage);
-  Choose("site_privacy_always_deny_rbutton");
-  GoToPage(kPlaybackPage);
-  Choose("site_p2p_always_deny_rbutton");
+  home_.Write(
+      PanelHome::MasterFile(),
+      image::File("settings",
+                  image::Entry(SASM::kDefaultStorageLimit, image::Number(0)) +
+                      image::Entry(SASM::kDefaultCameraAlways, image::Bool(1)) +
+                      image::Entry(SASM::kDisallowP2PUplink, image::Bool(1))));
+  Start("advanced");
   const auto before = home_.Disk();
   for (const int page : {0, 1, 2, 3, 0, 3, 1, 2}) GoToPage(page);
   Settle();
