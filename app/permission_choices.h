@@ -6,19 +6,19 @@
 // In the order of the rows of the list store permission_settings.
 struct PermissionChoice {
   PermissionSetting::_SettingsPermissionState state;
-  // The word in a site's row, and the choice in a combo box.
-  int word_id;
-  const char* word_fallback;
+  // In a site's row, where its own text is missing.
+  const char* fallback;
+  // The text of the choice in a combo box.
   int choice_id;
   // A stock id.
   const char* icon;
 };
 
 inline constexpr PermissionChoice kPermissionChoices[] = {
-    {PermissionSetting::kPermissionStateAlwaysDeny, 11100, "Block", 11100,
+    {PermissionSetting::kPermissionStateAlwaysDeny, "Block", 11100,
      "icon_corvane_always_deny"},
-    {PermissionSetting::kPermissionStateAlwaysAsk, 11101, "Ask", 11103,
+    {PermissionSetting::kPermissionStateAlwaysAsk, "Ask", 11103,
      "icon_corvane_always_ask"},
-    {PermissionSetting::kPermissionStateAlwaysAllow, 11102, "Allow", 11102,
+    {PermissionSetting::kPermissionStateAlwaysAllow, "Allow", 11102,
      "icon_corvane_always_allow"},
 };

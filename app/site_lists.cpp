@@ -54,9 +54,8 @@ std::vector<SiteRow> ReadRows(GnomeTCCapplet* panel, SitePermissionMode mode) {
   for (unsigned int i = 0; i < domains->count; ++i) {
     const SimpleString& domain = domains->At(i)->name;
     rows[i].website = domain.c_str();
-    rows[i].state = all_are_blocked
-                        ? PermissionSetting::kPermissionStateAlwaysDeny
-                        : kSitePermissions[mode].read(domain);
+    rows[i].state = PermissionSetting::StateOfSite(
+        all_are_blocked, [&] { return kSitePermissions[mode].read(domain); });
     if (mode == kStorageMode) MeasureSpace(panel, domain, &rows[i].used);
   }
   return rows;

@@ -151,7 +151,7 @@ const char* permission_state_text(GnomeTCCapplet* panel,
                                   PermissionState state) {
   const PermissionChoice* choice = ChoiceOf(state);
   if (!choice) return "Unknown";
-  return text_or(panel, choice->word_id, choice->word_fallback);
+  return text_or(panel, PermissionSetting::TextOf(state), choice->fallback);
 }
 
 const char* permission_state_icon(PermissionState state) {

@@ -27,13 +27,12 @@ inline constexpr std::array<PermissionWords, 3> kPermissions = {{
 struct StateWords {
   PermissionState state;
   const char* word;
-  int text;
 };
 
 inline constexpr std::array<StateWords, 3> kStates = {{
-    {PermissionSetting::kPermissionStateAlwaysDeny, "block", 11100},
-    {PermissionSetting::kPermissionStateAlwaysAsk, "ask", 11101},
-    {PermissionSetting::kPermissionStateAlwaysAllow, "allow", 11102},
+    {PermissionSetting::kPermissionStateAlwaysDeny, "block"},
+    {PermissionSetting::kPermissionStateAlwaysAsk, "ask"},
+    {PermissionSetting::kPermissionStateAlwaysAllow, "allow"},
 }};
 
 // The words of a state other than kPermissionStateNone.

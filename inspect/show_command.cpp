@@ -49,7 +49,7 @@ std::string UsedText(std::uint64_t bytes) {
 std::string StateText(const PermissionStates& states, Permission permission,
                       double storage_limit_kb, StringManager* strings) {
   const PermissionState state = states.Of(permission);
-  std::string text = TextOf(strings, WordsOf(state).text);
+  std::string text = TextOf(strings, PermissionSetting::TextOf(state));
   if (permission == Permission::kStorage && storage_limit_kb > 0) {
     text += " (" + SizeText(storage_limit_kb * 1024) + ")";
   } else if (permission == Permission::kStorage &&

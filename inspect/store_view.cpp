@@ -90,11 +90,10 @@ SiteSettings StoreView::Read(const SimpleString& name) const {
                   StorageSetting::kbToPermissionSetting(site.storage_limit_kb));
   site.states.Set(Permission::kCamera,
                   ReadState(PermissionSetting::kCameraAndMic, stored));
-  // The switch for all sites comes before what is stored for one.
-  site.states.Set(
-      Permission::kNetwork,
-      BlocksNetwork()
-          ? SwitchState(true)
-          : ReadState(PermissionSetting::kPeerAssistedNetworking, stored));
+  site.states.Set(Permission::kNetwork,
+                  PermissionSetting::StateOfSite(BlocksNetwork(), [&] {
+                    return ReadState(PermissionSetting::kPeerAssistedNetworking,
+                                     stored);
+                  }));
   return site;
 }

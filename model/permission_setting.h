@@ -42,6 +42,21 @@ class PermissionSetting : public SettingBase {
     return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
   }
 
+  // What holds for a site: a switch that blocks all sites comes before what is
+  // stored for one, which then need not be read.
+  template <typename ReadStored>
+  [[nodiscard]] static _SettingsPermissionState StateOfSite(
+      bool all_are_blocked, ReadStored read_stored) {
+    return all_are_blocked ? kPermissionStateAlwaysDeny : read_stored();
+  }
+
+  // The id of the text that says a site's state, which is not None.
+  [[nodiscard]] static constexpr int TextOf(_SettingsPermissionState state) {
+    return state == kPermissionStateAlwaysDeny  ? 11100
+           : state == kPermissionStateAlwaysAsk ? 11101
+                                                : 11102;
+  }
+
  private:
   SASM::SimpleString always_key_;
   SASM::SimpleString allow_key_;
