@@ -71,9 +71,7 @@ gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
   return (a_value > b_value) - (a_value < b_value);
 }
 
-RowsInOrder::RowsInOrder(bool are_in_order) {
-  rows_are_in_order = are_in_order;
-}
+RowsInOrder::RowsInOrder() { rows_are_in_order = true; }
 
 RowsInOrder::~RowsInOrder() { rows_are_in_order = false; }
 

@@ -20,11 +20,11 @@ gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
 gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
                         gpointer column);
 
-// While it lives the sort functions take rows for what they are said to be: in
-// order already. A list sorted then keeps its rows as they stand.
+// While it lives the sort functions take all rows for equal: a sorted list that
+// is filled in its order then keeps each row where it is put.
 class RowsInOrder {
  public:
-  explicit RowsInOrder(bool are_in_order);
+  RowsInOrder();
   ~RowsInOrder();
   RowsInOrder(const RowsInOrder&) = delete;
   RowsInOrder& operator=(const RowsInOrder&) = delete;

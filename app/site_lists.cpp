@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/detached_list.h"
+#include "app/list_sorting.h"
 #include "app/notebook_pages.h"
 #include "model/storage_setting.h"
 #include "store/setting_keys.h"
@@ -31,9 +32,13 @@ struct SiteRow {
   const char* website;
   PermissionState state;
   UsedSpace used;
-  // Where the list is sorted, what it is sorted by: the one or the other.
-  std::string text_key;
-  guint number_key;
+};
+
+// What a row is sorted by: the one or the other.
+struct SortKey {
+  guint number;
+  std::string text;
+  const SiteRow* row;
 };
 
 void MeasureSpace(GnomeTCCapplet* panel, const SimpleString& domain,
@@ -66,23 +71,29 @@ guint NumberIn(const SiteRow& row, SitePermissionMode mode, int column) {
   return is_state ? static_cast<guint>(row.state) : row.used.raw_bytes;
 }
 
+SortKey KeyOf(const SiteRow& row, SitePermissionMode mode, int column) {
+  if (column == kWebsiteColumn) {
+    return {0, reverse_domain_components(row.website), &row};
+  }
+  return {NumberIn(row, mode, column), "", &row};
+}
+
 // As the list would sort them itself by its sort functions, which take their
 // texts apart anew at every comparison.
-void SortRows(std::vector<SiteRow>* rows, SitePermissionMode mode, int column,
-              bool descending) {
-  for (SiteRow& row : *rows) {
-    if (column == kWebsiteColumn) {
-      row.text_key = reverse_domain_components(row.website);
-    } else {
-      row.number_key = NumberIn(row, mode, column);
-    }
-  }
-  std::ranges::stable_sort(*rows, [=](const SiteRow& a, const SiteRow& b) {
-    const SiteRow& first = descending ? b : a;
-    const SiteRow& second = descending ? a : b;
-    return std::tie(first.number_key, first.text_key) <
-           std::tie(second.number_key, second.text_key);
+std::vector<SortKey> Sorted(const std::vector<SiteRow>& rows,
+                            SitePermissionMode mode, int column,
+                            GtkSortType order) {
+  std::vector<SortKey> keys;
+  keys.reserve(rows.size());
+  for (const SiteRow& row : rows) keys.push_back(KeyOf(row, mode, column));
+  const bool descending = order == GTK_SORT_DESCENDING;
+  std::ranges::stable_sort(keys, [=](const SortKey& a, const SortKey& b) {
+    const SortKey& first = descending ? b : a;
+    const SortKey& second = descending ? a : b;
+    return std::tie(first.number, first.text) <
+           std::tie(second.number, second.text);
   });
+  return keys;
 }
 
 void AppendRow(GnomeTCCapplet* panel, GtkListStore* store,
@@ -96,6 +107,22 @@ void AppendRow(GnomeTCCapplet* panel, GtkListStore* store,
       // Of the other lists the row ends here.
       mode == kStorageMode ? kUsedColumn : -1, row.used.text, kUsedRawColumn,
       row.used.raw_bytes, -1);
+}
+
+// In the order that the list is in.
+void AppendRows(GnomeTCCapplet* panel, GtkListStore* store,
+                SitePermissionMode mode, const std::vector<SiteRow>& rows) {
+  int column = 0;
+  GtkSortType order = GTK_SORT_ASCENDING;
+  if (!gtk_tree_sortable_get_sort_column_id(GTK_TREE_SORTABLE(store), &column,
+                                            &order)) {
+    for (const SiteRow& row : rows) AppendRow(panel, store, mode, row);
+    return;
+  }
+  const RowsInOrder in_order;
+  for (const SortKey& key : Sorted(rows, mode, column, order)) {
+    AppendRow(panel, store, mode, *key.row);
+  }
 }
 
 void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
@@ -113,13 +140,10 @@ void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode) {
   const SitePermission& list = kSitePermissions[mode];
   set_sensitive(panel, list.remove_button, false);
   GtkListStore* store = get_list_store(panel->builder, list.list_store);
-  std::vector<SiteRow> rows = ReadRows(panel, mode);
-  DetachedList detached(get_tree_view(panel->builder, list.tree_view), store);
-  if (detached.IsSorted()) {
-    SortRows(&rows, mode, detached.SortColumn(), detached.IsDescending());
-    detached.SetRowsAreInOrder();
-  }
-  for (const SiteRow& row : rows) AppendRow(panel, store, mode, row);
+  const std::vector<SiteRow> rows = ReadRows(panel, mode);
+  const DetachedList detached(get_tree_view(panel->builder, list.tree_view),
+                              store);
+  AppendRows(panel, store, mode, rows);
 }
 
 PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice) {
