@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <cstring>
-#include <new>
 
 #include "settings/big_endian.h"
 #include "settings/settings_format.h"
@@ -15,13 +15,11 @@ constexpr unsigned long kSmallestCapacity = 1024;
 
 }  // namespace
 
-SettingsAggregator::SettingsAggregator(unsigned long initial_size)
-    : capacity_(std::max(initial_size, kSmallestCapacity)) {
-  buffer_ = new (std::nothrow) unsigned char[capacity_];
-  if (!buffer_) capacity_ = 0;
+SettingsAggregator::SettingsAggregator(unsigned long initial_size) {
+  (void)SetCapacity(std::max(initial_size, kSmallestCapacity));  // else 0
 }
 
-SettingsAggregator::~SettingsAggregator() { delete[] buffer_; }
+SettingsAggregator::~SettingsAggregator() { std::free(buffer_); }
 
 template <typename Number>
 void SettingsAggregator::AppendBigEndian(Number number) {
@@ -37,7 +35,7 @@ void SettingsAggregator::AppendData(const unsigned char* data,
 
 bool SettingsAggregator::MakeRoom(unsigned long count) {
   while (count >= capacity_ - size_) {
-    if (!Grow()) {
+    if (!SetCapacity(capacity_ ? capacity_ * 2 : kSmallestCapacity)) {
       failed_ = true;
       return false;
     }
@@ -45,15 +43,13 @@ bool SettingsAggregator::MakeRoom(unsigned long count) {
   return true;
 }
 
-bool SettingsAggregator::Grow() {
-  const std::uint64_t grown_capacity =
-      capacity_ ? capacity_ * 2 : kSmallestCapacity;
-  auto* grown = new (std::nothrow) unsigned char[grown_capacity];
-  if (!grown) return false;
-  if (size_) std::memcpy(grown, buffer_, size_);
-  delete[] buffer_;
-  buffer_ = grown;
-  capacity_ = grown_capacity;
+// A buffer that grows in place takes no pages anew; for a large image they cost
+// more than its bytes.
+bool SettingsAggregator::SetCapacity(std::uint64_t capacity) {
+  void* resized = std::realloc(buffer_, capacity);
+  if (!resized) return false;
+  buffer_ = static_cast<unsigned char*>(resized);
+  capacity_ = capacity;
   return true;
 }
 

@@ -50,12 +50,12 @@ class SettingsAggregator {
     return room;
   }
   bool MakeRoom(unsigned long count);
-  bool Grow();
+  [[nodiscard]] bool SetCapacity(std::uint64_t capacity);
   template <typename Number>
   void AppendBigEndian(Number number);
 
-  unsigned char* buffer_;
-  std::uint64_t capacity_;
+  unsigned char* buffer_ = nullptr;
+  std::uint64_t capacity_ = 0;
   std::uint64_t size_ = 0;
   bool failed_ = false;
 };
