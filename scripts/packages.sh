@@ -53,6 +53,27 @@ test_packages=(
   xdotool
 )
 
+# To measure.
+# shellcheck disable=SC2034
+bench_packages=(
+  bsdextrautils
+  gettext
+  jq
+  libbenchmark-dev
+  libsqlite3-dev
+  strace
+)
+
+# To search for faults by fuzzing and under valgrind.
+# shellcheck disable=SC2034
+search_packages=(
+  clang-14
+  libclang-rt-14-dev
+  llvm-14
+  python3
+  valgrind
+)
+
 # Prints those of the named packages that are not installed.
 missing_packages() {
   local installed
