@@ -117,6 +117,7 @@ std::size_t SizeOfTree(const std::string& path) {
 
 void RunProgram(const std::vector<std::string>& arguments) {
   std::vector<char*> argv;
+  argv.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) {
     argv.push_back(const_cast<char*>(argument.c_str()));
   }

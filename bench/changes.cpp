@@ -93,7 +93,7 @@ void MeasureOneChange(const PrivateHome& home) {
         }},
        {"SQLite, 2 REPLACE", [&] {
           for (std::size_t i = 0; i < kChanges; ++i) {
-            Replace(replace, "always", i % 2);
+            Replace(replace, "always", i % 2 == 1);
             Replace(replace, "allow", 0);
           }
         }}});

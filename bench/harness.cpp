@@ -60,6 +60,7 @@ double Median(std::vector<double> values) {
 template <typename Value>
 double MedianOf(const std::vector<std::vector<Sample>>& rounds, Value value) {
   std::vector<double> values;
+  values.reserve(rounds.size());
   for (const auto& round : rounds) values.push_back(value(round));
   return Median(values);
 }
@@ -89,6 +90,7 @@ void Print(const Subject& subject, const std::vector<std::string>& sides,
 
 void Measure(const Subject& subject, const std::vector<Side>& sides) {
   std::vector<std::string> names;
+  names.reserve(sides.size());
   for (const Side& side : sides) names.push_back(side.name);
   // The first round warms up and gives the peak.
   std::size_t peak_bytes = 0;

@@ -22,22 +22,22 @@ std::size_t g_allocations = 0;
 // In front of the C library's own.
 extern "C" {
 void* __libc_malloc(std::size_t size);                     // NOLINT
-void* __libc_calloc(std::size_t count, std::size_t size);  // NOLINT
-void* __libc_realloc(void* old, std::size_t size);         // NOLINT
+void* __libc_calloc(std::size_t nmemb, std::size_t size);  // NOLINT
+void* __libc_realloc(void* ptr, std::size_t size);         // NOLINT
 
 __attribute__((visibility("default"))) void* malloc(std::size_t size) {
   ++g_allocations;
   return __libc_malloc(size);
 }
-__attribute__((visibility("default"))) void* calloc(std::size_t count,
+__attribute__((visibility("default"))) void* calloc(std::size_t nmemb,
                                                     std::size_t size) {
   ++g_allocations;
-  return __libc_calloc(count, size);
+  return __libc_calloc(nmemb, size);
 }
-__attribute__((visibility("default"))) void* realloc(void* old,
+__attribute__((visibility("default"))) void* realloc(void* ptr,
                                                      std::size_t size) {
   ++g_allocations;
-  return __libc_realloc(old, size);
+  return __libc_realloc(ptr, size);
 }
 }
 

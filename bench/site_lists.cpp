@@ -76,7 +76,7 @@ void FillSorted(const List& list, const PrivateHome& home) {
 }
 
 std::string MakeDatabase(const PrivateHome& home) {
-  const std::string path =
+  std::string path =
       home / ("sites" + std::to_string(home.Sites().size()) + ".db");
   sqlite3* database = nullptr;
   sqlite3_open(path.c_str(), &database);

@@ -42,7 +42,9 @@ class FixedLanguage : public LocalizedStringManager {
         NCPStringsMappingTable[static_cast<std::size_t>(middle)];
     const int record_id = static_cast<int>(record.id);
     if (record_id == id) {
-      return NCPStringsConstants[language * kTextCount + record.row];
+      const char* text =
+          NCPStringsConstants[language * kTextCount + record.row];
+      return text;
     }
     if (id < record_id) {
       high = middle - 1;
@@ -55,7 +57,7 @@ class FixedLanguage : public LocalizedStringManager {
 
 void BenchPanel(benchmark::State& state) {
   FixedLanguage strings;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     for (strings.language = 0; strings.language < state.range(0);
          ++strings.language) {
       for (const StringMapping& mapping : NCPStringsMappingTable) {
@@ -68,7 +70,7 @@ void BenchPanel(benchmark::State& state) {
 
 void BenchFloor(benchmark::State& state) {
   const auto languages = static_cast<unsigned int>(state.range(0));
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     for (unsigned int language = 0; language < languages; ++language) {
       for (const StringMapping& mapping : NCPStringsMappingTable) {
         benchmark::DoNotOptimize(
@@ -84,7 +86,7 @@ void BenchGettext(benchmark::State& state) {
   for (const StringMapping& mapping : NCPStringsMappingTable) {
     ids.push_back(std::to_string(mapping.id));
   }
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     for (int language = 0; language < state.range(0); ++language) {
       state.PauseTiming();
       setenv("LANGUAGE", kCodes[language], 1);
