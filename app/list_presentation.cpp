@@ -12,6 +12,9 @@ namespace {
 
 constexpr int kNameColumn = 0;
 
+// The toolkit's, on both sides of a text in a list.
+constexpr int kPadding = 2 + 2;  // pixels
+
 // A tooltip of a longer name would not fit a screen.
 constexpr glong kLongestTooltip = 4096;  // characters
 
@@ -67,6 +70,18 @@ void ShowNames(GtkTreeViewColumn* column, GtkCellRenderer* renderer) {
                                           nullptr);
 }
 
+bool IsWider(GtkTreeView* view, GtkTreePath* path, const char* name) {
+  GdkRectangle cell;
+  gtk_tree_view_get_cell_area(
+      view, path, gtk_tree_view_get_column(view, kNameColumn), &cell);
+  PangoLayout* layout = gtk_widget_create_pango_layout(GTK_WIDGET(view), name);
+  int width = 0;
+  pango_layout_get_pixel_size(layout, &width, nullptr);
+  g_object_unref(layout);
+  return width + kPadding > cell.width;
+}
+
+// A name that is cut in its column.
 gboolean ShowWholeName(GtkWidget* view, gint x, gint y, gboolean keyboard_mode,
                        GtkTooltip* tooltip, gpointer) {
   GtkTreeModel* model = nullptr;
@@ -82,11 +97,13 @@ gboolean ShowWholeName(GtkWidget* view, gint x, gint y, gboolean keyboard_mode,
       g_utf8_strlen(name.c_str(), -1) > kLongestTooltip
           ? g_utf8_offset_to_pointer(name.c_str(), kLongestTooltip)
           : name.c_str() + name.size();
+  const std::string text(name.c_str(), end);
+  const bool is_cut = IsWider(GTK_TREE_VIEW(view), path, text.c_str());
   // As text, so that nothing in a name counts as markup.
-  gtk_tooltip_set_text(tooltip, std::string(name.c_str(), end).c_str());
+  gtk_tooltip_set_text(tooltip, text.c_str());
   gtk_tree_view_set_tooltip_row(GTK_TREE_VIEW(view), tooltip, path);
   gtk_tree_path_free(path);
-  return TRUE;
+  return is_cut;
 }
 
 gboolean RemoveOnDelete(GtkWidget*, GdkEventKey* event, gpointer button) {
