@@ -27,8 +27,7 @@ void SettingsAggregator::AppendBigEndian(Number number) {
   if (room) StoreBigEndian(number, room);
 }
 
-void SettingsAggregator::AppendData(const unsigned char* data,
-                                    unsigned long count) {
+void SettingsAggregator::AppendData(const void* data, unsigned long count) {
   unsigned char* room = Extend(count);
   if (room) std::memcpy(room, data, count);
 }
@@ -70,10 +69,8 @@ void SettingsAggregator::WriteSimpleStringAsPString(
   if (!text.HasText()) failed_ = true;
   const char* bytes = text.HasText() ? text.c_str() : "";
   const std::size_t size = strnlen(bytes, kLongestText);
-  unsigned char* room = Extend(sizeof(unsigned short) + size);
-  if (!room) return;
-  StoreBigEndian(static_cast<unsigned short>(size), room);
-  std::memcpy(room + sizeof(unsigned short), bytes, size);
+  WriteU16(static_cast<unsigned short>(size));
+  AppendData(bytes, size);
 }
 
 unsigned long SettingsAggregator::GetData(unsigned long count,

@@ -18,7 +18,7 @@ class SettingsAggregator {
   SettingsAggregator& operator=(const SettingsAggregator&) = delete;
 
   // Doubles the capacity as long as the bytes would fill the buffer.
-  void AppendData(const unsigned char* data, unsigned long count);
+  void AppendData(const void* data, unsigned long count);
 
   void WriteU8(unsigned char value) {
     if (unsigned char* room = Extend(sizeof value)) *room = value;
