@@ -186,7 +186,7 @@ TEST_F(ShowCommand, CarriesNoCodeThatWritesSettings) {
 
 TEST_F(ShowCommand, SpeaksTheLanguageOfTheUserButNotInJson) {
   constexpr char kLocale[] = "de_DE.UTF-8";
-  if (!std::setlocale(LC_MESSAGES, kLocale)) GTEST_SKIP() << kLocale;
+  ASSERT_NE(std::setlocale(LC_MESSAGES, kLocale), nullptr) << kLocale;
   setenv("LC_ALL", kLocale, 1);
   EXPECT_THAT(Run("show").output,
               HasSubstr("Kamera- und Mikrofoneinstellungen  "));
