@@ -11,6 +11,7 @@
 #include "bench/private_home.h"
 #include "model/permission_setting.h"
 #include "model/storage_setting.h"
+#include "settings/settings_writer.h"
 #include "store/setting_keys.h"
 
 using SASM::SettingsManager;
@@ -127,6 +128,16 @@ void MeasureBlockAll(const PrivateHome& home) {
         }}});
 }
 
+// What is written anew whenever the list of sites changes.
+void BuildMasterImage() {
+  unsigned char* image = nullptr;
+  unsigned long size = 0;
+  SMImplementation::SettingsWriter(SettingBase::mSettingsManager,
+                                   SettingsManager::MasterDomain())
+      .GetNewSettingsWithName("settings", &image, size);
+  delete[] image;
+}
+
 void MeasureRemovedSites(PrivateHome* home) {
   const auto& sites = home->Sites();
   std::vector<std::string> removed;
@@ -163,7 +174,10 @@ void MeasureRemovedSites(PrivateHome* home) {
                 RewriteFile(home->MasterFile().c_str(), master.data(), size);
               }
             },
-            prepare}});
+            prepare},
+           {"its images alone", [] {
+              for (std::size_t i = 0; i < kRemoved; ++i) BuildMasterImage();
+            }}});
 }
 
 }  // namespace
