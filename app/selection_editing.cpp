@@ -2,8 +2,10 @@
 
 namespace {
 
-bool IsPlainClick(const GdkEventButton& event) {
-  return event.type == GDK_BUTTON_PRESS && event.button == 1 &&
+bool IsPlainClick(GtkTreeView* view, const GdkEventButton& event) {
+  return event.window == gtk_tree_view_get_bin_window(view) &&
+         event.button == 1 && event.type != GDK_2BUTTON_PRESS &&
+         event.type != GDK_3BUTTON_PRESS &&
          (event.state & gtk_accelerator_get_default_mod_mask()) == 0;
 }
 
@@ -14,7 +16,8 @@ GtkTreePath* NewClickedRow(GtkTreeView* view, const GdkEventButton& event,
   GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
   GtkTreePath* path = nullptr;
   GtkTreeViewColumn* clicked = nullptr;
-  if (gtk_tree_selection_count_selected_rows(selection) < 2 ||
+  if (!IsPlainClick(view, event) ||
+      gtk_tree_selection_count_selected_rows(selection) < 2 ||
       !gtk_tree_view_get_path_at_pos(view, static_cast<int>(event.x),
                                      static_cast<int>(event.y), &path, &clicked,
                                      nullptr, nullptr)) {
@@ -28,14 +31,19 @@ GtkTreePath* NewClickedRow(GtkTreeView* view, const GdkEventButton& event,
   return nullptr;
 }
 
-gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* event,
+gboolean KeepSelection(GtkTreeView* view, GdkEventButton* press,
+                       gpointer column) {
+  GtkTreePath* path = NewClickedRow(view, *press, GTK_TREE_VIEW_COLUMN(column));
+  if (!path) return FALSE;
+  gtk_tree_path_free(path);
+  return TRUE;
+}
+
+// Not before the release, which a menu that is open takes for a choice.
+gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
                               gpointer column) {
-  if (event->window != gtk_tree_view_get_bin_window(view) ||
-      !IsPlainClick(*event)) {
-    return FALSE;
-  }
   auto* edited = GTK_TREE_VIEW_COLUMN(column);
-  GtkTreePath* path = NewClickedRow(view, *event, edited);
+  GtkTreePath* path = NewClickedRow(view, *release, edited);
   if (!path) return FALSE;
   GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
   GList* rows = gtk_tree_selection_get_selected_rows(selection, nullptr);
@@ -54,6 +62,8 @@ gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* event,
 }  // namespace
 
 void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column) {
-  g_signal_connect(view, "button-press-event", G_CALLBACK(EditKeepingSelection),
+  g_signal_connect(view, "button-press-event", G_CALLBACK(KeepSelection),
                    column);
+  g_signal_connect(view, "button-release-event",
+                   G_CALLBACK(EditKeepingSelection), column);
 }

@@ -20,7 +20,7 @@ void SendInput(const std::string& command) {
 }
 
 std::string ClickAtPlaceOf(const Accessible& node) {
-  return "mousemove " + node.Place() + " click 1";
+  return "mousemove " + node.Place() + " mousedown 1 sleep 0.15 mouseup 1";
 }
 
 }  // namespace
