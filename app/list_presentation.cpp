@@ -91,16 +91,16 @@ gboolean ShowWholeName(GtkWidget* view, gint x, gint y, gboolean keyboard_mode,
                                          keyboard_mode, &model, &path, &row)) {
     return FALSE;
   }
-  const std::string name =
+  std::string name =
       display_text(get_text_field(model, &row, kNameColumn).c_str());
-  const char* end =
-      g_utf8_strlen(name.c_str(), -1) > kLongestTooltip
-          ? g_utf8_offset_to_pointer(name.c_str(), kLongestTooltip)
-          : name.c_str() + name.size();
-  const std::string text(name.c_str(), end);
-  const bool is_cut = IsWider(GTK_TREE_VIEW(view), path, text.c_str());
+  if (g_utf8_strlen(name.c_str(), -1) > kLongestTooltip) {
+    name.resize(static_cast<std::size_t>(
+        g_utf8_offset_to_pointer(name.c_str(), kLongestTooltip) -
+        name.c_str()));
+  }
+  const bool is_cut = IsWider(GTK_TREE_VIEW(view), path, name.c_str());
   // As text, so that nothing in a name counts as markup.
-  gtk_tooltip_set_text(tooltip, text.c_str());
+  gtk_tooltip_set_text(tooltip, name.c_str());
   gtk_tree_view_set_tooltip_row(GTK_TREE_VIEW(view), tooltip, path);
   gtk_tree_path_free(path);
   return is_cut;
