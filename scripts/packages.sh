@@ -24,6 +24,7 @@ headless_packages=(
 )
 
 package_packages=(
+  build-essential
   debhelper
   dpkg-dev
 )
