@@ -55,6 +55,9 @@ void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
       "gtk-cancel", GTK_RESPONSE_CANCEL, "gtk-open", GTK_RESPONSE_ACCEPT,
       nullptr);
   gtk_dialog_set_default_response(GTK_DIALOG(chooser), GTK_RESPONSE_ACCEPT);
+  // In no folder, among recent files, it loses what is typed first.
+  gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(chooser),
+                                      g_get_home_dir());
   if (gtk_dialog_run(GTK_DIALOG(chooser)) == GTK_RESPONSE_ACCEPT) {
     // Null for what has no local path.
     char* path = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(chooser));
