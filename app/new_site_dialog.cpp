@@ -17,10 +17,9 @@ GtkComboBox* get_combo_box(GnomeTCCapplet* panel, const char* combo_box_id) {
       get_object(panel->builder, combo_box_id, GTK_TYPE_COMBO_BOX));
 }
 
-// The rows stand in the order of the states, which begin at 1.
 void set_combo_permission_enum(GnomeTCCapplet* panel, const char* combo_box_id,
                                PermissionState state) {
-  gtk_combo_box_set_active(get_combo_box(panel, combo_box_id), state - 1);
+  set_active_state(get_combo_box(panel, combo_box_id), state);
 }
 
 // None when no row is active.

@@ -39,6 +39,15 @@ gboolean KeepSelection(GtkTreeView* view, GdkEventButton* press,
   return TRUE;
 }
 
+void AllowChanges(GtkTreeSelection* selection, gboolean are_allowed) {
+  const auto answer = [](GtkTreeSelection*, GtkTreeModel*, GtkTreePath*,
+                         gboolean, gpointer allowed) -> gboolean {
+    return GPOINTER_TO_INT(allowed);
+  };
+  gtk_tree_selection_set_select_function(selection, answer,
+                                         GINT_TO_POINTER(are_allowed), nullptr);
+}
+
 // Not before the release, which a menu that is open takes for a choice.
 gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
                               gpointer column) {
@@ -46,15 +55,10 @@ gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
   GtkTreePath* path = NewClickedRow(view, *release, edited);
   if (!path) return FALSE;
   GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
-  GList* rows = gtk_tree_selection_get_selected_rows(selection, nullptr);
   gtk_widget_grab_focus(GTK_WIDGET(view));
+  AllowChanges(selection, FALSE);
   gtk_tree_view_set_cursor(view, path, edited, TRUE);
-  for (GList* row = rows; row; row = row->next) {
-    auto* selected = static_cast<GtkTreePath*>(row->data);
-    gtk_tree_selection_select_path(selection, selected);
-    gtk_tree_path_free(selected);
-  }
-  g_list_free(rows);
+  AllowChanges(selection, TRUE);
   gtk_tree_path_free(path);
   return TRUE;
 }

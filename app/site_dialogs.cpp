@@ -48,12 +48,60 @@ void SetSelected(GnomeTCCapplet* panel, SitePermissionMode mode,
   update_notebook_page(panel, kCurrentPage);
 }
 
+// The state that all selected rows have; None where they differ.
+struct SharedState {
+  int column;
+  bool has_rows = false;
+  int state = PermissionSetting::kPermissionStateNone;
+};
+
+void ShareState(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
+                gpointer data) {
+  auto* shared = static_cast<SharedState*>(data);
+  int state = PermissionSetting::kPermissionStateNone;
+  gtk_tree_model_get(model, row, shared->column, &state, -1);
+  const bool differs = shared->has_rows && state != shared->state;
+  shared->state = differs ? PermissionSetting::kPermissionStateNone : state;
+  shared->has_rows = true;
+}
+
+// The toolkit marks the choice that reads as the edited row does, if any: then
+// what lies under the pointer may not be what the row has, and where the rows
+// differ the marked choice, which is no change, could not be given to all.
+template <SitePermissionMode mode>
+void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
+                     const char*, GnomeTCCapplet* panel) {
+  const SitePermission& list = kSitePermissions[mode];
+  SharedState shared = {.column = list.state_column};
+  for_each_selected(panel, list.tree_view, ShareState, &shared);
+  // To the renderer every change is a choice of the user.
+  g_signal_handlers_block_matched(combo_box, G_SIGNAL_MATCH_DATA, 0, 0, nullptr,
+                                  nullptr, renderer);
+  set_active_state(GTK_COMBO_BOX(combo_box),
+                   static_cast<PermissionState>(shared.state));
+  g_signal_handlers_unblock_matched(combo_box, G_SIGNAL_MATCH_DATA, 0, 0,
+                                    nullptr, nullptr, renderer);
+}
+
+template <SitePermissionMode mode>
+void PrepareChoice(GnomeTCCapplet* panel) {
+  g_signal_connect(get_object(panel->builder, kSitePermissions[mode].renderer,
+                              GTK_TYPE_CELL_RENDERER_COMBO),
+                   "editing-started", G_CALLBACK(MarkSharedState<mode>), panel);
+}
+
 void CursorChanged(GnomeTCCapplet* panel, SitePermissionMode mode) {
   if (panel->updating) return;
   set_sensitive(panel, kSitePermissions[mode].remove_button, true);
 }
 
 }  // namespace
+
+void prepare_choices(GnomeTCCapplet* panel) {
+  PrepareChoice<kCameraAndMicMode>(panel);
+  PrepareChoice<kStorageMode>(panel);
+  PrepareChoice<kPeerAssistedMode>(panel);
+}
 
 extern "C" {
 

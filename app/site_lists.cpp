@@ -153,6 +153,11 @@ PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice) {
   return static_cast<PermissionState>(state);
 }
 
+// The rows stand in the order of the states, which begin at 1.
+void set_active_state(GtkComboBox* combo_box, PermissionState state) {
+  gtk_combo_box_set_active(combo_box, state - 1);
+}
+
 SimpleString get_domain_field(GnomeTCCapplet*, GtkTreeModel* model,
                               GtkTreeIter* row) {
   return get_text_field(model, row, kWebsiteColumn);

@@ -21,8 +21,10 @@ struct SitePermission {
   // What asks for a new site.
   int new_site_title;
   int new_site_label;
-  // Columns of the list store.
+  // Column of the list store.
   int state_column;
+  // Shows the permission, and the combo box when it is edited.
+  const char* renderer;
   // The stored permission of a site.
   PermissionState (*read)(const SASM::SimpleString& domain);
   void (*write)(const SASM::SimpleString& domain, PermissionState state);
@@ -38,8 +40,15 @@ extern const SitePermission kSitePermissions[3];
 // insensitive. Selection and cursor are lost with the old rows.
 void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode);
 
+// Lets the combo box of a row begin with what all selected rows have, if it is
+// the same.
+void prepare_choices(GnomeTCCapplet* panel);
+
 // The state of a row of the list store permission_settings.
 PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice);
+// Makes the row of that state the active one of a combo box of such rows; none
+// for None.
+void set_active_state(GtkComboBox* combo_box, PermissionState state);
 
 // A copy of the row's domain.
 SASM::SimpleString get_domain_field(GnomeTCCapplet* panel, GtkTreeModel* model,

@@ -9,6 +9,7 @@
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/notebook_pages.h"
+#include "app/site_lists.h"
 #include "app/ui_definition.h"
 #include "store/setting_keys.h"
 #include "strings/string_manager.h"
@@ -98,6 +99,7 @@ bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
   select_page(panel, page_name);
   prepare_list_sorting(panel);
   prepare_lists(panel);
+  prepare_choices(panel);
   set_links(panel);
   localize_widgets(panel);
   fix_list_sizes(panel);

@@ -54,12 +54,8 @@ void PanelTest::Select(const char* tree_view, std::initializer_list<int> rows) {
 }
 
 void PanelTest::ChooseInList(SitePermissionMode mode, PermissionState state) {
-  constexpr const char* kRenderers[] = {
-      "site_privacy_permission_settings_combo",
-      "cellrenderer_storage_permission_settings_combo",
-      "cellrenderer_p2p_permission_settings_combo"};
-  GtkTreeView* view =
-      get_tree_view(panel_->builder, kSitePermissions[mode].tree_view);
+  const SitePermission& list = kSitePermissions[mode];
+  GtkTreeView* view = get_tree_view(panel_->builder, list.tree_view);
   GList* rows = gtk_tree_selection_get_selected_rows(
       gtk_tree_view_get_selection(view), nullptr);
   ASSERT_NE(rows, nullptr);
@@ -69,7 +65,7 @@ void PanelTest::ChooseInList(SitePermissionMode mode, PermissionState state) {
       GTK_TREE_MODEL(get_list_store(panel_->builder, "permission_settings")),
       &choice, nullptr, state - 1));
   g_signal_emit_by_name(
-      get_object(panel_->builder, kRenderers[mode], GTK_TYPE_CELL_RENDERER),
+      get_object(panel_->builder, list.renderer, GTK_TYPE_CELL_RENDERER),
       "changed", path, &choice);
   g_free(path);
   g_list_free_full(rows, reinterpret_cast<GDestroyNotify>(gtk_tree_path_free));

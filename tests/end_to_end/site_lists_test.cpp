@@ -166,4 +166,22 @@ TEST_F(SiteListTest, ChangesSeveralPermissionsByMouse) {
   ExpectState("a.example", kBlock);
   ExpectState("c.example", kBlock);
   ExpectState("b.example", kAllow);
+  // What one of them has already.
+  Select({"a.example", "b.example"});
+  ClickAt(Get({"table cell"}, "Allow"));
+  ClickAt(Get({"menu item"}, "Allow"));
+  ExpectState("a.example", kAllow);
+}
+
+TEST_F(SiteListTest, AMenuOpensWithWhatTheRowHasUnderThePointer) {
+  Open(kCamera, {"a.example"});
+  const std::string before = home_.Read(PanelHome::SettingsFileOf("a.example"));
+  Select({"a.example"});
+  const Accessible permission = Get({"table cell"}, "Ask me");
+  ClickAt(permission);
+  const Accessible choice = Get({"menu item"}, "Ask me for permission");
+  ClickAt(permission);
+  EXPECT_TRUE(Eventually([&] { return !choice.Is(Accessible::kShowing); }));
+  Close();
+  EXPECT_EQ(home_.Read(PanelHome::SettingsFileOf("a.example")), before);
 }
