@@ -22,7 +22,6 @@ struct List {
   const char* tree_view;
   // Shows the names of column 0.
   const char* column;
-  const char* renderer;
   const char* remove_button;
   // Shows a choice for each row, null where there is none.
   const char* choice_column;
@@ -30,15 +29,13 @@ struct List {
 
 constexpr List kLists[] = {
     {"site_storage_treeview", "site_storage_site_column",
-     "cellrenderer_storage_website", "remove_site_storage_setting_button",
-     "site_storage_permission_column"},
+     "remove_site_storage_setting_button", "site_storage_permission_column"},
     {"site_privacy_treeview", "site_privacy_site_column",
-     "cellrenderer_website", "remove_site_privacy_setting_button",
-     "site_privacy_cam_and_mic_column"},
-    {"site_p2p_treeview", "site_p2p_site_column", "p2p_cellrenderer_website3",
+     "remove_site_privacy_setting_button", "site_privacy_cam_and_mic_column"},
+    {"site_p2p_treeview", "site_p2p_site_column",
      "remove_site_p2p_setting_button", "site_p2p_permission_column"},
     {"trusted_locations_treeview", "trusted_location_column",
-     "trusted_location", "remove_trusted_location_button", nullptr},
+     "remove_trusted_location_button", nullptr},
 };
 
 // A list is called what its dialog is, an entry what its label says.
@@ -61,7 +58,8 @@ void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
 
 // The UI builder packs a renderer without letting it grow, so that a name would
 // be cut in a column that has room for it.
-void ShowNames(GtkTreeViewColumn* column, GtkCellRenderer* renderer) {
+void ShowNames(GtkTreeViewColumn* column) {
+  GtkCellRenderer* renderer = get_renderer(column);
   g_object_ref(renderer);
   gtk_cell_layout_clear(GTK_CELL_LAYOUT(column));
   gtk_tree_view_column_pack_start(column, renderer, TRUE);
@@ -132,9 +130,7 @@ void prepare_lists(GnomeTCCapplet* panel) {
   AllowSeveralRows(panel->builder);
   for (const List& list : kLists) {
     GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
-    ShowNames(get_column(panel->builder, list.column),
-              GTK_CELL_RENDERER(get_object(panel->builder, list.renderer,
-                                           GTK_TYPE_CELL_RENDERER)));
+    ShowNames(get_column(panel->builder, list.column));
     gtk_widget_set_has_tooltip(GTK_WIDGET(view), TRUE);
     g_signal_connect(view, "query-tooltip", G_CALLBACK(ShowWholeName), nullptr);
     g_signal_connect(view, "key-press-event", G_CALLBACK(RemoveOnDelete),

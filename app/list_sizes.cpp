@@ -15,27 +15,20 @@ enum class Content { kName, kUsedSpace, kPermission };
 struct SizedColumn {
   const char* tree_view;
   const char* column;
-  const char* renderer;
   Content content;
 };
 
 constexpr SizedColumn kSizedColumns[] = {
-    {"site_storage_treeview", "site_storage_site_column",
-     "cellrenderer_storage_website", Content::kName},
-    {"site_storage_treeview", "site_storage_used_column",
-     "cellrenderer_storage_used", Content::kUsedSpace},
+    {"site_storage_treeview", "site_storage_site_column", Content::kName},
+    {"site_storage_treeview", "site_storage_used_column", Content::kUsedSpace},
     {"site_storage_treeview", "site_storage_permission_column",
-     "cellrenderer_storage_permission_settings_combo", Content::kPermission},
-    {"site_privacy_treeview", "site_privacy_site_column",
-     "cellrenderer_website", Content::kName},
+     Content::kPermission},
+    {"site_privacy_treeview", "site_privacy_site_column", Content::kName},
     {"site_privacy_treeview", "site_privacy_cam_and_mic_column",
-     "site_privacy_permission_settings_combo", Content::kPermission},
-    {"site_p2p_treeview", "site_p2p_site_column", "p2p_cellrenderer_website3",
-     Content::kName},
-    {"site_p2p_treeview", "site_p2p_permission_column",
-     "cellrenderer_p2p_permission_settings_combo", Content::kPermission},
-    {"trusted_locations_treeview", "trusted_location_column",
-     "trusted_location", Content::kName},
+     Content::kPermission},
+    {"site_p2p_treeview", "site_p2p_site_column", Content::kName},
+    {"site_p2p_treeview", "site_p2p_permission_column", Content::kPermission},
+    {"trusted_locations_treeview", "trusted_location_column", Content::kName},
 };
 
 // The longest text of each unit of size.
@@ -70,9 +63,8 @@ int TitleWidth(GtkTreeViewColumn* column) {
   return wanted.width;
 }
 
-int CellWidth(GtkTreeViewColumn* column, GtkCellRenderer* renderer,
-              const std::string& text) {
-  g_object_set(renderer, "text", text.c_str(), nullptr);
+int CellWidth(GtkTreeViewColumn* column, const std::string& text) {
+  g_object_set(get_renderer(column), "text", text.c_str(), nullptr);
   int width = 0;
   gtk_tree_view_column_cell_get_size(column, nullptr, nullptr, nullptr, &width,
                                      nullptr);
@@ -87,11 +79,9 @@ void SetWidths(GtkWidget* view, GtkStyle*, gpointer data) {
   for (const SizedColumn& row : kSizedColumns) {
     GtkTreeViewColumn* column = get_column(panel->builder, row.column);
     if (gtk_tree_view_column_get_tree_view(column) != view) continue;
-    GtkCellRenderer* renderer = GTK_CELL_RENDERER(
-        get_object(panel->builder, row.renderer, GTK_TYPE_CELL_RENDERER));
     int width = TitleWidth(column);
     for (const std::string& text : WidestTexts(panel, row.content)) {
-      width = std::max(width, CellWidth(column, renderer, text));
+      width = std::max(width, CellWidth(column, text));
     }
     gtk_tree_view_column_set_fixed_width(column, width);
   }
@@ -101,13 +91,11 @@ void SetWidths(GtkWidget* view, GtkStyle*, gpointer data) {
 
 void fix_list_sizes(GnomeTCCapplet* panel) {
   for (const SizedColumn& row : kSizedColumns) {
-    gtk_tree_view_column_set_sizing(get_column(panel->builder, row.column),
-                                    GTK_TREE_VIEW_COLUMN_FIXED);
+    GtkTreeViewColumn* column = get_column(panel->builder, row.column);
+    gtk_tree_view_column_set_sizing(column, GTK_TREE_VIEW_COLUMN_FIXED);
     if (row.content != Content::kName) continue;
     // A name of several lines takes no more height than the others.
-    g_object_set(
-        get_object(panel->builder, row.renderer, GTK_TYPE_CELL_RENDERER),
-        "single-paragraph-mode", TRUE, nullptr);
+    g_object_set(get_renderer(column), "single-paragraph-mode", TRUE, nullptr);
   }
   for (const SizedColumn& row : kSizedColumns) {
     GtkTreeView* view = get_tree_view(panel->builder, row.tree_view);

@@ -40,6 +40,13 @@ GtkTreeViewColumn* get_column(GtkBuilder* builder, const char* id) {
       get_object(builder, id, GTK_TYPE_TREE_VIEW_COLUMN));
 }
 
+GtkCellRenderer* get_renderer(GtkTreeViewColumn* column) {
+  GList* renderers = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
+  auto* renderer = GTK_CELL_RENDERER(renderers->data);
+  g_list_free(renderers);
+  return renderer;
+}
+
 const char* text_or(GnomeTCCapplet* panel, int string_id,
                     const char* fallback) {
   const char* text = panel->strings->GetString(string_id);

@@ -19,6 +19,8 @@ GtkWidget* get_widget(GtkBuilder* builder, const char* id);
 GtkListStore* get_list_store(GtkBuilder* builder, const char* id);
 GtkTreeView* get_tree_view(GtkBuilder* builder, const char* id);
 GtkTreeViewColumn* get_column(GtkBuilder* builder, const char* id);
+// The one that a column has.
+GtkCellRenderer* get_renderer(GtkTreeViewColumn* column);
 
 // A constant text, or null.
 const char* text_or(GnomeTCCapplet* panel, int string_id, const char* fallback);
