@@ -1,4 +1,4 @@
-#include "inspect/command_line.h"
+#include "cli/command_line.h"
 
 #include <getopt.h>
 

@@ -2,7 +2,7 @@
 
 #include <clocale>
 
-#include "tests/inspect/settings_program_test.h"
+#include "tests/cli/settings_program_test.h"
 
 namespace {
 

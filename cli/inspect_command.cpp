@@ -7,11 +7,11 @@
 #include <string>
 #include <utility>
 
-#include "inspect/commands.h"
-#include "inspect/json_writer.h"
-#include "inspect/plain_text.h"
-#include "inspect/problems.h"
-#include "inspect/settings_source.h"
+#include "cli/commands.h"
+#include "cli/json_writer.h"
+#include "cli/plain_text.h"
+#include "cli/problems.h"
+#include "cli/settings_source.h"
 #include "settings/settings_reader.h"
 
 using SASM::SettingDataItem;

@@ -1,9 +1,9 @@
-#include "inspect/settings_source.h"
+#include "cli/settings_source.h"
 
 #include <cerrno>
 #include <cstring>
 
-#include "inspect/problems.h"
+#include "cli/problems.h"
 #include "settings/settings_reader.h"
 
 using SASM::FileImage;

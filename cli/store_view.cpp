@@ -1,4 +1,4 @@
-#include "inspect/store_view.h"
+#include "cli/store_view.h"
 
 #include <utility>
 

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "inspect/commands.h"
-#include "inspect/json_writer.h"
-#include "inspect/plain_text.h"
-#include "inspect/problems.h"
-#include "inspect/store_view.h"
+#include "cli/commands.h"
+#include "cli/json_writer.h"
+#include "cli/plain_text.h"
+#include "cli/problems.h"
+#include "cli/store_view.h"
 #include "model/storage_setting.h"
 #include "platform/linux_file_manager.h"
 #include "strings/string_manager.h"

@@ -1,11 +1,11 @@
-#include "inspect/json_writer.h"
+#include "cli/json_writer.h"
 
 #include <algorithm>
 #include <cinttypes>
 #include <cmath>
 #include <cstdio>
 
-#include "inspect/plain_text.h"
+#include "cli/plain_text.h"
 #include "strings/utf8.h"
 
 namespace {

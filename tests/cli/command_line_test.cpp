@@ -1,4 +1,4 @@
-#include "tests/inspect/settings_program_test.h"
+#include "tests/cli/settings_program_test.h"
 
 namespace {
 

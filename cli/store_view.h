@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "inspect/permission_words.h"
-#include "inspect/settings_source.h"
+#include "cli/permission_words.h"
+#include "cli/settings_source.h"
 #include "store/store_layout.h"
 
 struct GlobalSettings {

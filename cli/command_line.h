@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "inspect/permission_words.h"
+#include "cli/permission_words.h"
 
 inline constexpr char kProgramName[] = "corvane-player-settings";
 

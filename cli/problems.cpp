@@ -1,10 +1,10 @@
-#include "inspect/problems.h"
+#include "cli/problems.h"
 
 #include <cinttypes>
 #include <cstdio>
 
-#include "inspect/command_line.h"
-#include "inspect/plain_text.h"
+#include "cli/command_line.h"
+#include "cli/plain_text.h"
 
 void ReportProblem(const char* name, const char* what) {
   std::fprintf(stderr, "%s: %s: %s\n", kProgramName, Printable(name).c_str(),

@@ -1,7 +1,7 @@
 #include <string>
 
-#include "inspect/commands.h"
-#include "inspect/plain_text.h"
+#include "cli/commands.h"
+#include "cli/plain_text.h"
 #include "plugin/plugin_version.h"
 #include "strings/string_manager.h"
 

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "inspect/commands.h"
-#include "inspect/problems.h"
+#include "cli/commands.h"
+#include "cli/problems.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The commands, which print on standard output.
 #pragma once
 
-#include "inspect/command_line.h"
+#include "cli/command_line.h"
 
 // Both are false when something was damaged, unreadable or unknown, which
 // standard error then names.

@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "tests/inspect/settings_program_test.h"
+#include "tests/cli/settings_program_test.h"
 
 namespace {
 

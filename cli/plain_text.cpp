@@ -1,4 +1,4 @@
-#include "inspect/plain_text.h"
+#include "cli/plain_text.h"
 
 #include <algorithm>
 #include <charconv>
