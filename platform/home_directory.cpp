@@ -2,10 +2,11 @@
 
 #include <pwd.h>
 #include <unistd.h>
-#include <wordexp.h>
 
 #include <cstdio>
 #include <cstdlib>
+
+#include "platform/shell_word.h"
 
 using SASM::SimpleString;
 
@@ -13,21 +14,15 @@ namespace {
 
 bool IsAbsolute(const char* path) { return path && *path == '/'; }
 
-// Empty when the shell's rules give no absolute path, without a text when
-// memory is short.
+// Empty when the shell's rules give no absolute path, without a text when out
+// of memory.
 SimpleString ExpandAsShell(const char* path) {
   const char* home = std::getenv("HOME");
   // An empty HOME would turn "~/x" into "/x", which is nobody's home.
   if (home && !IsAbsolute(home)) return {};
-  wordexp_t words = {};
-  const int result = wordexp(path, &words, 0);
-  const bool expanded =
-      result == 0 && words.we_wordc > 0 && IsAbsolute(words.we_wordv[0]);
-  SimpleString first = expanded ? words.we_wordv[0] : nullptr;
-  // Words may have been allocated before memory ran out (POSIX: wordexp).
-  if (result == 0 || result == WRDE_NOSPACE) wordfree(&words);
-  if (result == WRDE_NOSPACE) first = SimpleString::WithoutText();
-  return first;
+  SimpleString expanded = FirstShellWord(path);
+  if (expanded.HasText() && !IsAbsolute(expanded.c_str())) return {};
+  return expanded;
 }
 
 SimpleString ExpandFromPasswordDatabase(const char* path) {

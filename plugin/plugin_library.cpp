@@ -1,14 +1,18 @@
 #include "plugin/plugin_library.h"
 
-#include <dirent.h>
 #include <dlfcn.h>
 #include <sys/stat.h>
-#include <wordexp.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <string>
+
+#include "platform/directory_stream.h"
+#include "platform/shell_word.h"
+
+using SASM::SimpleString;
 
 namespace {
 
@@ -25,17 +29,9 @@ constexpr const char* kDirectories[] = {
 constexpr char kLocateCommand[] = "locate corvaneplayer.so 2>/dev/null";
 constexpr int kLongestLine = 1023;
 
-struct Free {
-  void operator()(char* text) const { std::free(text); }
-};
-struct CloseDirectory {
-  void operator()(DIR* directory) const { (void)closedir(directory); }
-};
 struct ClosePipe {
   void operator()(FILE* pipe) const { (void)pclose(pipe); }
 };
-// Null when there is none, or no memory for it.
-using Text = std::unique_ptr<char, Free>;
 
 bool IsRegularFile(const char* path) {
   struct stat info;
@@ -47,45 +43,30 @@ void* LoadLibrary(const char* path) {
   return IsRegularFile(path) ? dlopen(path, RTLD_LAZY) : nullptr;
 }
 
-Text FirstWordOf(const char* text) {
-  wordexp_t words = {};
-  const int result = wordexp(text, &words, WRDE_NOCMD);
-  const bool has_word = result == 0 && words.we_wordc > 0;
-  Text first(has_word ? strdup(words.we_wordv[0]) : nullptr);
-  // Words may have been allocated before memory ran out (POSIX: wordexp).
-  if (result == 0 || result == WRDE_NOSPACE) wordfree(&words);
-  return first;
-}
-
-Text Join(const char* directory, const char* name) {
-  char* path = nullptr;
-  const bool is_joined = asprintf(&path, "%s/%s", directory, name) >= 0;
-  return Text(is_joined ? path : nullptr);
-}
-
-Text FirstMatchIn(const char* directory) {
-  const std::unique_ptr<DIR, CloseDirectory> entries(opendir(directory));
-  if (!entries) return nullptr;
+// Empty when the directory cannot be opened or has no match.
+SimpleString FirstMatchIn(const char* directory) {
+  const DirectoryStream entries = OpenDirectoryStream(AT_FDCWD, directory);
+  if (!entries) return {};
   while (const dirent* entry = readdir(entries.get())) {
     if (std::strstr(entry->d_name, kLibraryName)) {
-      return Join(directory, entry->d_name);
+      return SimpleString::Joined({directory, "/", entry->d_name});
     }
   }
-  return nullptr;
+  return {};
 }
 
 void* LoadFromDirectory(const char* directory) {
-  const Text expanded = FirstWordOf(directory);
-  const Text path = expanded ? FirstMatchIn(expanded.get()) : nullptr;
-  return path ? LoadLibrary(path.get()) : nullptr;
+  const SimpleString expanded = FirstShellWord(directory);
+  if (expanded.IsEmpty()) return nullptr;
+  const SimpleString path = FirstMatchIn(expanded.c_str());
+  return path.IsEmpty() ? nullptr : LoadLibrary(path.c_str());
 }
 
 void* LoadFromEnvironment() {
   const char* variable = std::getenv(kPathVariable);
-  const Text items(variable ? strdup(variable) : nullptr);
-  if (!items) return nullptr;
+  std::string items = variable ? variable : "";
   char* rest = nullptr;
-  for (char* item = strtok_r(items.get(), ":", &rest); item;
+  for (char* item = strtok_r(items.data(), ":", &rest); item;
        item = strtok_r(nullptr, ":", &rest)) {
     if (void* library = LoadFromDirectory(item)) return library;
   }

@@ -1,0 +1,27 @@
+// An owned directory stream.
+#pragma once
+
+#include <dirent.h>
+
+#include <memory>
+
+#include "platform/file_descriptor.h"
+
+struct CloseDirectory {
+  void operator()(DIR* directory) const { (void)closedir(directory); }
+};
+
+// Null when the directory could not be opened; errno says why.
+using DirectoryStream = std::unique_ptr<DIR, CloseDirectory>;
+
+// Opens a directory to list its entries. `parent` and `path` are those of
+// openat(2). Where the system permits it, the directory keeps its time of last
+// access.
+[[nodiscard]] inline DirectoryStream OpenDirectoryStream(int parent,
+                                                         const char* path) {
+  FileDescriptor descriptor = OpenForReading(parent, path, O_DIRECTORY);
+  if (!descriptor.IsOpen()) return nullptr;
+  DirectoryStream stream(fdopendir(descriptor.Get()));
+  if (stream) (void)descriptor.Release();  // closedir closes it
+  return stream;
+}
