@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/widget_helpers.h"
+#include "strings/placeholder.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ constexpr char kPageNames[] = "(privacy|storage|playback|advanced)";
 
 bool parse_command_line(GnomeTCCapplet* panel, int* argc, char*** argv,
                         char** page_name) {
-  const std::string description = fill_placeholder(
+  const std::string description = FillPlaceholder(
       text_or(panel, 11401, "Specify the name of the page to show %s"),
       kPageNames);
   const GOptionEntry options[] = {

@@ -1,5 +1,9 @@
 #include "app/dialogs.h"
 
+#include <string>
+
+#include "strings/placeholder.h"
+
 namespace {
 
 // How much narrower than its first allocation a label may later become.
@@ -9,7 +13,7 @@ constexpr int kWrappedLabelSlack = 10;  // pixels
 
 GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
                              const char* message_format, GError* error) {
-  const std::string message = fill_placeholder(
+  const std::string message = FillPlaceholder(
       message_format ? message_format : "Error", error ? error->message : "");
   GtkWidget* dialog = gtk_message_dialog_new(
       parent, GTK_DIALOG_DESTROY_WITH_PARENT, GTK_MESSAGE_ERROR,

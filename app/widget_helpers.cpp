@@ -1,5 +1,6 @@
 #include "app/widget_helpers.h"
 
+#include <string>
 #include <string_view>
 
 #include "app/permission_choices.h"
@@ -51,13 +52,6 @@ const char* text_or(GnomeTCCapplet* panel, int string_id,
                     const char* fallback) {
   const char* text = panel->strings->GetString(string_id);
   return text ? text : fallback;
-}
-
-std::string fill_placeholder(const char* format, const char* argument) {
-  std::string text = format;
-  const std::size_t placeholder = text.find("%s");
-  if (placeholder != text.npos) text.replace(placeholder, 2, argument);
-  return text;
 }
 
 void set_window_title(GnomeTCCapplet* panel, const char* window_id,

@@ -5,8 +5,6 @@
 // the UI definition gave it.
 #pragma once
 
-#include <string>
-
 #include "app/gnome_tcc_applet.h"
 #include "model/permission_setting.h"
 
@@ -24,8 +22,6 @@ GtkCellRenderer* get_renderer(GtkTreeViewColumn* column);
 
 // A constant text, or null.
 const char* text_or(GnomeTCCapplet* panel, int string_id, const char* fallback);
-// `format` with its first "%s" replaced by `argument`.
-std::string fill_placeholder(const char* format, const char* argument);
 
 void set_window_title(GnomeTCCapplet* panel, const char* window_id,
                       int string_id, const char* fallback);

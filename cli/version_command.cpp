@@ -3,6 +3,7 @@
 #include "cli/commands.h"
 #include "cli/plain_text.h"
 #include "plugin/plugin_version.h"
+#include "strings/placeholder.h"
 #include "strings/string_manager.h"
 
 namespace {
@@ -29,9 +30,6 @@ void RunVersion() {
   StringManager strings;
   const char* found = strings.GetString(TextOf(state));
   std::string text = found ? found : "";
-  const std::size_t placeholder = text.find("%s");
-  if (version && placeholder != text.npos) {
-    text.replace(placeholder, 2, Printable(version));
-  }
+  if (version) text = FillPlaceholder(text, Printable(version));
   std::puts(text.c_str());
 }
