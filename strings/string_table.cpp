@@ -23,8 +23,8 @@
 #include "strings/languages/swedish.h"
 #include "strings/languages/traditional_chinese.h"
 #include "strings/languages/turkish.h"
-#include "strings/link_rows.h"
 #include "strings/table_checks.h"
+#include "strings/web_addresses.h"
 
 namespace NCPStrings {
 namespace {
@@ -64,15 +64,16 @@ consteval bool AllAreSound(std::index_sequence<indexes...>) {
           ...);
 }
 static_assert(AllAreSound(std::make_index_sequence<kLanguageCount>()));
-static_assert(std::size(kEnglishTexts) + kLinkCount == kTextCount);
+static_assert(std::size(kEnglishTexts) + kAddressCount == kTextCount);
 
-using Addresses = std::array<std::array<Address, kLinkCount>, kLanguageCount>;
+using Addresses =
+    std::array<std::array<Address, kAddressCount>, kLanguageCount>;
 
 consteval Addresses MakeAddresses() {
   Addresses addresses = {};
   for (std::size_t language = 0; language < kLanguageCount; ++language) {
-    for (unsigned int link = 0; link < kLinkCount; ++link) {
-      addresses[language][link] = MakeAddress(link, kLanguages[language]);
+    for (unsigned int i = 0; i < kAddressCount; ++i) {
+      addresses[language][i] = MakeAddress(i, kLanguages[language]);
     }
   }
   return addresses;
@@ -81,23 +82,24 @@ consteval Addresses MakeAddresses() {
 constexpr Addresses kAddresses = MakeAddresses();
 
 // How many texts stand in front of the addresses.
-constexpr std::size_t kTextsBeforeLinks =
-    std::ranges::lower_bound(kEnglishTexts, kFirstLinkId, {}, &TextRow::id) -
+constexpr std::size_t kTextsBeforeAddresses =
+    std::ranges::lower_bound(kEnglishTexts, kFirstAddressId, {}, &TextRow::id) -
     std::begin(kEnglishTexts);
 
 // The text of row `row`, address or not, in a language.
 consteval const char* TextAt(std::size_t language, std::size_t row) {
-  if (row < kTextsBeforeLinks) return kTexts[language][row].text;
-  const std::size_t link = row - kTextsBeforeLinks;
-  if (link < kLinkCount) return kAddresses[language][link].data();
-  return kTexts[language][row - kLinkCount].text;
+  if (row < kTextsBeforeAddresses) return kTexts[language][row].text;
+  const std::size_t link = row - kTextsBeforeAddresses;
+  if (link < kAddressCount) return kAddresses[language][link].data();
+  return kTexts[language][row - kAddressCount].text;
 }
 
 consteval unsigned int IdAt(std::size_t row) {
-  if (row < kTextsBeforeLinks) return kEnglishTexts[row].id;
-  const std::size_t link = row - kTextsBeforeLinks;
-  if (link < kLinkCount) return kFirstLinkId + static_cast<unsigned int>(link);
-  return kEnglishTexts[row - kLinkCount].id;
+  if (row < kTextsBeforeAddresses) return kEnglishTexts[row].id;
+  const std::size_t link = row - kTextsBeforeAddresses;
+  if (link < kAddressCount)
+    return kFirstAddressId + static_cast<unsigned int>(link);
+  return kEnglishTexts[row - kAddressCount].id;
 }
 
 consteval MappingTable MakeMappings() {

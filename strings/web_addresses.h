@@ -10,19 +10,19 @@ namespace NCPStrings {
 
 inline constexpr std::string_view kSiteHost = "www.tessary.example";
 
-// Under the ids from kFirstLinkId on; the update page follows them.
+// Under the ids from kFirstAddressId on; the update page follows them.
 inline constexpr std::string_view kHelpTopics[] = {
     "privacy_controls",  "trusted_locations", "peer_assisted_networking",
     "protected_content", "private_browsing",  "storage",
     "camera_and_mic",    "playback",          "advanced",
 };
-inline constexpr unsigned int kFirstLinkId = 13000;
-inline constexpr unsigned int kLinkCount = std::size(kHelpTopics) + 1;
+inline constexpr unsigned int kFirstAddressId = 13000;
+inline constexpr unsigned int kAddressCount = std::size(kHelpTopics) + 1;
 
 // An address, NUL-terminated.
 using Address = std::array<char, 96>;
 
-// The address that stands under kFirstLinkId + `index` in a language: a help
+// The address that stands under kFirstAddressId + `index` in a language: a help
 // page, and under the last id the update page.
 consteval Address MakeAddress(unsigned int index,
                               const LanguageTraits& traits) {
