@@ -2,25 +2,26 @@
 // buttons that lead to the permissions by site.
 #include "app/dialogs.h"
 #include "app/notebook_pages.h"
-#include "model/storage_setting.h"
-#include "store/setting_keys.h"
-
-using SASM::SettingsManager;
+#include "model/permission_changes.h"
 
 namespace {
 
-// Data that could not be deleted shows in the list as used.
-void SetGlobalStorage(GnomeTCCapplet* panel, PermissionState state) {
-  (void)StorageSetting(SASM::kDefaultStorageLimit,
-                       SettingsManager::MasterDomain())
-      .setPermissionState(state)
-      .commit();
+void SetForAllSites(GnomeTCCapplet* panel, PermissionKind permission,
+                    PermissionState state) {
+  // Data that could not be deleted is still in the list when it is refilled.
+  (void)SetGlobalState(kPermissions[permission], state);
   update_notebook_page(panel, kCurrentPage);
 }
 
 // The signal comes as well when the button is switched off by another.
 bool IsChosenByUser(GtkToggleButton* button, GnomeTCCapplet* panel) {
   return !panel->updating && gtk_toggle_button_get_active(button);
+}
+
+// Of a button that blocks all sites.
+PermissionState StateOfSwitch(GtkToggleButton* button) {
+  return gtk_toggle_button_get_active(button) ? kPermissionStateAlwaysDeny
+                                              : kPermissionStateAlwaysAsk;
 }
 
 void ShowDialog(GnomeTCCapplet* panel, const char* dialog_id) {
@@ -34,20 +35,20 @@ extern "C" {
 G_MODULE_EXPORT void on_storage_allow_radiobutton_toggled(
     GtkToggleButton* button, GnomeTCCapplet* panel) {
   if (!IsChosenByUser(button, panel)) return;
-  SetGlobalStorage(panel, PermissionSetting::kPermissionStateAlwaysAllow);
+  SetForAllSites(panel, kStorage, kPermissionStateAlwaysAllow);
 }
 
 G_MODULE_EXPORT void on_storage_prompt_radiobutton_toggled(
     GtkToggleButton* button, GnomeTCCapplet* panel) {
   if (!IsChosenByUser(button, panel)) return;
-  SetGlobalStorage(panel, PermissionSetting::kPermissionStateAlwaysAsk);
+  SetForAllSites(panel, kStorage, kPermissionStateAlwaysAsk);
 }
 
 G_MODULE_EXPORT void on_storage_block_radiobutton_toggled(
     GtkToggleButton* button, GnomeTCCapplet* panel) {
   if (!IsChosenByUser(button, panel)) return;
   if (run_dialog(panel, "deny_all_storage_prompt_dialog")) {
-    SetGlobalStorage(panel, PermissionSetting::kPermissionStateAlwaysDeny);
+    SetForAllSites(panel, kStorage, kPermissionStateAlwaysDeny);
   } else {
     update_notebook_page(panel, kCurrentPage);  // back to the stored choice
   }
@@ -56,24 +57,13 @@ G_MODULE_EXPORT void on_storage_block_radiobutton_toggled(
 G_MODULE_EXPORT void on_site_privacy_always_deny_rbutton_toggled(
     GtkToggleButton* button, GnomeTCCapplet* panel) {
   if (panel->updating) return;
-  const bool block = gtk_toggle_button_get_active(button);
-  SettingBase(SASM::kDefaultCameraAlways, SettingsManager::MasterDomain())
-      .setBoolValue(block, SASM::kDefaultCameraAlways);
-  const SASM::SDIVector* domains = panel->settings->GetDomains();
-  for (unsigned int i = 0; domains && i < domains->count; ++i) {
-    PermissionSetting(PermissionSetting::kCameraAndMic, domains->At(i)->name)
-        .setState(block ? PermissionSetting::kPermissionStateAlwaysDeny
-                        : PermissionSetting::kPermissionStateAlwaysAsk);
-  }
-  update_notebook_page(panel, kCurrentPage);
+  SetForAllSites(panel, kCamera, StateOfSwitch(button));
 }
 
 G_MODULE_EXPORT void on_site_p2p_always_deny_rbutton_toggled(
     GtkToggleButton* button, GnomeTCCapplet* panel) {
   if (panel->updating) return;
-  panel->p2p_uplink->setBoolValue(gtk_toggle_button_get_active(button),
-                                  SASM::kDisallowP2PUplink);
-  update_notebook_page(panel, kCurrentPage);
+  SetForAllSites(panel, kNetwork, StateOfSwitch(button));
 }
 
 G_MODULE_EXPORT void on_site_storage_button_clicked(GtkButton*,

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "app/permission_choices.h"
 #include "app/widget_helpers.h"
 #include "model/storage_setting.h"
 
@@ -43,7 +42,7 @@ std::vector<std::string> WidestTexts(GnomeTCCapplet* panel, Content content) {
     }
   } else if (content == Content::kUsedSpace) {
     for (const double bytes : kLongSizes) {
-      char text[80];
+      char text[StorageSetting::kSpaceTextSize];
       StorageSetting::FormatSpace(bytes, text, sizeof text);
       texts.emplace_back(text);
     }

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "app/permission_choices.h"
 #include "app/widget_helpers.h"
 
 namespace {
@@ -182,7 +181,7 @@ void LocalizePermissionChoices(GnomeTCCapplet* panel) {
   int row = 0;
   for (const PermissionChoice& choice : kPermissionChoices) {
     set_list_store_text(panel, "permission_settings", 0, row++,
-                        choice.choice_id);
+                        choice.choice_text_id);
   }
 }
 

@@ -2,6 +2,7 @@
 #include "app/dialogs.h"
 #include "app/notebook_pages.h"
 #include "app/site_lists.h"
+#include "model/permission_changes.h"
 
 using SASM::SimpleString;
 
@@ -29,20 +30,22 @@ PermissionState get_combo_permission_enum(GnomeTCCapplet* panel,
   GtkTreeIter active;
   return gtk_combo_box_get_active_iter(combo_box, &active)
              ? get_choice_state(gtk_combo_box_get_model(combo_box), &active)
-             : PermissionSetting::kPermissionStateNone;
+             : kPermissionStateNone;
 }
 
 void AskForSite(GnomeTCCapplet* panel, SitePermissionMode mode) {
   const SitePermission& list = kSitePermissions[mode];
+  const Permission& permission = kPermissions[list.permission];
   set_sensitive(panel, kAddButton, false);
-  set_combo_permission_enum(panel, kPermission, list.preset());
-  set_label_text(panel, "new_site_permission_label", list.new_site_label,
-                 nullptr, nullptr);
-  set_accessible_name(panel, kPermission, list.new_site_label);
+  set_combo_permission_enum(panel, kPermission,
+                            NewSiteState(permission, master_settings(panel)));
+  set_label_text(panel, "new_site_permission_label",
+                 permission.new_site_label_id, nullptr, nullptr);
+  set_accessible_name(panel, kPermission, permission.new_site_label_id);
   GtkWidget* entry = get_widget(panel->builder, kEntry);
   gtk_entry_set_text(GTK_ENTRY(entry), "");
   gtk_window_set_focus(GTK_WINDOW(get_widget(panel->builder, kDialog)), entry);
-  show_dialog_over(panel, kDialog, list.dialog, list.new_site_title);
+  show_dialog_over(panel, kDialog, list.dialog, permission.new_site_title_id);
   panel->new_site_mode = mode;
 }
 
@@ -82,8 +85,10 @@ G_MODULE_EXPORT void on_new_site_add_button_clicked(GtkButton*,
       gtk_entry_get_text(GTK_ENTRY(get_widget(panel->builder, kEntry)));
   // A site that could not be added is missing from the list that follows.
   (void)panel->settings->AddDomainWithDefaultSettings(domain);
-  kSitePermissions[panel->new_site_mode].write(
-      domain, get_combo_permission_enum(panel, kPermission));
+  const PermissionKind kind = kSitePermissions[panel->new_site_mode].permission;
+  // Data that could not be deleted is still in the list when it is refilled.
+  (void)SetSiteState(kPermissions[kind], domain,
+                     get_combo_permission_enum(panel, kPermission));
   update_notebook_page(panel, kCurrentPage);
 }
 

@@ -3,7 +3,6 @@
 #include "app/site_lists.h"
 #include "app/trusted_locations.h"
 #include "app/widget_helpers.h"
-#include "store/setting_keys.h"
 
 namespace {
 
@@ -23,44 +22,42 @@ class UpdatingGuard {
   bool was_updating_;
 };
 
-const char* StorageButtonOf(PermissionState state) {
-  switch (state) {
-    case PermissionSetting::kPermissionStateAlwaysDeny:
-      return "storage_block_radiobutton";
-    case PermissionSetting::kPermissionStateAlwaysAsk:
-      return "storage_prompt_radiobutton";
-    case PermissionSetting::kPermissionStateAlwaysAllow:
-      return "storage_allow_radiobutton";
-    case PermissionSetting::kPermissionStateNone:
-      break;
+struct RadioButton {
+  PermissionKind permission;
+  PermissionState state;
+  const char* id;
+};
+
+// The choices for all sites.
+constexpr RadioButton kRadioButtons[] = {
+    {kStorage, kPermissionStateAlwaysAllow, "storage_allow_radiobutton"},
+    {kStorage, kPermissionStateAlwaysAsk, "storage_prompt_radiobutton"},
+    {kStorage, kPermissionStateAlwaysDeny, "storage_block_radiobutton"},
+    {kCamera, kPermissionStateAlwaysAsk, "site_privacy_always_ask_rbutton"},
+    {kCamera, kPermissionStateAlwaysDeny, "site_privacy_always_deny_rbutton"},
+    {kNetwork, kPermissionStateAlwaysAsk, "site_p2p_always_ask_rbutton"},
+    {kNetwork, kPermissionStateAlwaysDeny, "site_p2p_always_deny_rbutton"},
+};
+
+void UpdatePermissionPage(GnomeTCCapplet* panel, SitePermissionMode mode) {
+  const PermissionKind permission = kSitePermissions[mode].permission;
+  const PermissionState state =
+      GlobalState(kPermissions[permission], master_settings(panel));
+  for (const RadioButton& button : kRadioButtons) {
+    if (button.permission != permission || button.state != state) continue;
+    set_toggle_active(panel, button.id, true);
   }
-  return nullptr;
-}
-
-void UpdateStoragePage(GnomeTCCapplet* panel) {
-  const char* button = StorageButtonOf(kSitePermissions[kStorageMode].preset());
-  if (button) set_toggle_active(panel, button, true);
-  fill_site_list(panel, kStorageMode);
-}
-
-void UpdatePrivacyPage(GnomeTCCapplet* panel) {
-  const bool deny = kSitePermissions[kCameraAndMicMode].preset() ==
-                    PermissionSetting::kPermissionStateAlwaysDeny;
-  set_toggle_active(panel,
-                    deny ? "site_privacy_always_deny_rbutton"
-                         : "site_privacy_always_ask_rbutton",
-                    true);
-  fill_site_list(panel, kCameraAndMicMode);
+  fill_site_list(panel, mode);
 }
 
 void UpdatePlaybackPage(GnomeTCCapplet* panel) {
-  const bool deny = panel->p2p_uplink->getBoolValue(SASM::kDisallowP2PUplink);
-  set_toggle_active(panel, "site_p2p_always_ask_rbutton", !deny);
-  set_toggle_active(panel, "site_p2p_always_deny_rbutton", deny);
-  set_sensitive(panel, "add_site_p2p_setting_button", !deny);
-  set_sensitive(panel, "site_p2p_treeview", !deny);
-  set_sensitive(panel, "site_p2p_button", !deny);
-  fill_site_list(panel, kPeerAssistedMode);
+  const bool are_blocked =
+      IsBlockedEverywhere(kPermissions[kNetwork], master_settings(panel));
+  for (const char* widget : {"add_site_p2p_setting_button", "site_p2p_treeview",
+                             "site_p2p_button"}) {
+    set_sensitive(panel, widget, !are_blocked);
+  }
+  UpdatePermissionPage(panel, kPeerAssistedMode);
 }
 
 }  // namespace
@@ -71,8 +68,8 @@ void update_notebook_page(GnomeTCCapplet* panel, int page) {
     page = gtk_notebook_get_current_page(
         GTK_NOTEBOOK(get_widget(panel->builder, "tessary_corvane_notebook")));
   }
-  if (page == kStoragePage) UpdateStoragePage(panel);
-  if (page == kPrivacyPage) UpdatePrivacyPage(panel);
+  if (page == kStoragePage) UpdatePermissionPage(panel, kStorageMode);
+  if (page == kPrivacyPage) UpdatePermissionPage(panel, kCameraAndMicMode);
   if (page == kPlaybackPage) UpdatePlaybackPage(panel);
   fill_trusted_locations(panel);
 }

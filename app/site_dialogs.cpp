@@ -1,6 +1,7 @@
 // The handlers of the three site dialogs.
 #include "app/notebook_pages.h"
 #include "app/site_lists.h"
+#include "model/permission_changes.h"
 
 using SASM::SimpleString;
 
@@ -16,7 +17,10 @@ void WriteRow(SitePermissionMode mode, GtkTreeModel* model, GtkTreeIter* row,
               gpointer data) {
   const auto* chosen = static_cast<ChosenState*>(data);
   const SimpleString domain = get_domain_field(chosen->panel, model, row);
-  if (!domain.IsEmpty()) kSitePermissions[mode].write(domain, *chosen->state);
+  if (domain.IsEmpty()) return;
+  // Data that could not be deleted is still in the list when it is refilled.
+  (void)SetSiteState(kPermissions[kSitePermissions[mode].permission], domain,
+                     *chosen->state);
 }
 
 void domain_privacy_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
@@ -52,16 +56,16 @@ void SetSelected(GnomeTCCapplet* panel, SitePermissionMode mode,
 struct SharedState {
   int column;
   bool has_rows = false;
-  int state = PermissionSetting::kPermissionStateNone;
+  int state = kPermissionStateNone;
 };
 
 void ShareState(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
                 gpointer data) {
   auto* shared = static_cast<SharedState*>(data);
-  int state = PermissionSetting::kPermissionStateNone;
+  int state = kPermissionStateNone;
   gtk_tree_model_get(model, row, shared->column, &state, -1);
   const bool differs = shared->has_rows && state != shared->state;
-  shared->state = differs ? PermissionSetting::kPermissionStateNone : state;
+  shared->state = differs ? kPermissionStateNone : state;
   shared->has_rows = true;
 }
 

@@ -9,7 +9,6 @@
 #include "app/list_sorting.h"
 #include "app/notebook_pages.h"
 #include "model/storage_setting.h"
-#include "store/setting_keys.h"
 
 using SASM::SimpleString;
 
@@ -24,7 +23,7 @@ constexpr int kIconAfterState = +1;
 
 // Columns that only the local storage list has.
 struct UsedSpace {
-  char text[80];
+  char text[StorageSetting::kSpaceTextSize];
   guint raw_bytes;  // the low 32 bits, by which the column is sorted
 };
 
@@ -50,17 +49,21 @@ void MeasureSpace(GnomeTCCapplet* panel, const SimpleString& domain,
 }
 
 std::vector<SiteRow> ReadRows(GnomeTCCapplet* panel, SitePermissionMode mode) {
-  const bool all_are_blocked =
-      mode == kPeerAssistedMode &&
-      panel->p2p_uplink->getBoolValue(SASM::kDisallowP2PUplink);
+  const Permission& permission =
+      kPermissions[kSitePermissions[mode].permission];
   const SASM::SDIVector* domains = panel->settings->GetDomains();
   if (!domains) return {};
+  const SASM::SettingsDictionary* master = master_settings(panel);
+  const bool are_blocked = IsBlockedEverywhere(permission, master);
   std::vector<SiteRow> rows(domains->count);
   for (unsigned int i = 0; i < domains->count; ++i) {
     const SimpleString& domain = domains->At(i)->name;
     rows[i].website = domain.c_str();
-    rows[i].state = PermissionSetting::StateOfSite(
-        all_are_blocked, [&] { return kSitePermissions[mode].read(domain); });
+    // Spares reading the files of sites whose own settings do not count.
+    const SASM::SettingsDictionary* site =
+        are_blocked ? nullptr
+                    : panel->settings->EnsureSettingsAreLoadedForDomain(domain);
+    rows[i].state = EffectiveState(permission, master, site);
     if (mode == kStorageMode) MeasureSpace(panel, domain, &rows[i].used);
   }
   return rows;
@@ -136,6 +139,11 @@ void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
 
 }  // namespace
 
+const SASM::SettingsDictionary* master_settings(GnomeTCCapplet* panel) {
+  return panel->settings->EnsureSettingsAreLoadedForDomain(
+      SASM::SettingsManager::MasterDomain());
+}
+
 void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode) {
   const SitePermission& list = kSitePermissions[mode];
   set_sensitive(panel, list.remove_button, false);
@@ -148,7 +156,7 @@ void fill_site_list(GnomeTCCapplet* panel, SitePermissionMode mode) {
 
 PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice) {
   constexpr int kStateColumn = 2;
-  int state = PermissionSetting::kPermissionStateNone;
+  int state = kPermissionStateNone;
   gtk_tree_model_get(choices, choice, kStateColumn, &state, -1);
   return static_cast<PermissionState>(state);
 }

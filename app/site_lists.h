@@ -11,29 +11,37 @@ enum SitePermissionMode : int {
   kPeerAssistedMode = 2,
 };
 
-// Everything in which the three differ.
+// Everything in which the three differ, beside their permissions.
 struct SitePermission {
+  PermissionKind permission;
   const char* dialog;
   const char* tree_view;
   const char* list_store;
   const char* add_button;
   const char* remove_button;
-  // What asks for a new site.
-  int new_site_title;
-  int new_site_label;
   // Column of the list store.
   int state_column;
   // Shows the permission, and the combo box when it is edited.
   const char* renderer;
-  // The stored permission of a site.
-  PermissionState (*read)(const SASM::SimpleString& domain);
-  void (*write)(const SASM::SimpleString& domain, PermissionState state);
-  // What a new site is offered: where there is one, the permission of all.
-  PermissionState (*preset)();
 };
 
 // By SitePermissionMode.
-extern const SitePermission kSitePermissions[3];
+inline constexpr SitePermission kSitePermissions[] = {
+    {kCamera, "cam_and_mic_by_site_dialog", "site_privacy_treeview",
+     "site_privacy_list", "add_site_privacy_setting_button",
+     "remove_site_privacy_setting_button", 2,
+     "site_privacy_permission_settings_combo"},
+    {kStorage, "storage_by_site_dialog", "site_storage_treeview",
+     "site_storage_list", "add_site_storage_setting_button",
+     "remove_site_storage_setting_button", 4,
+     "cellrenderer_storage_permission_settings_combo"},
+    {kNetwork, "p2p_by_site_dialog", "site_p2p_treeview", "site_p2p_list",
+     "add_site_p2p_setting_button", "remove_site_p2p_setting_button", 2,
+     "cellrenderer_p2p_permission_settings_combo"},
+};
+
+// The global settings, borrowed from the settings manager.
+const SASM::SettingsDictionary* master_settings(GnomeTCCapplet* panel);
 
 // Refills the list with every known site, in the order of the settings
 // manager's list unless the user has sorted it, and makes its Remove button

@@ -3,19 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "app/permission_choices.h"
-
-namespace {
-
-const PermissionChoice* ChoiceOf(PermissionState state) {
-  for (const PermissionChoice& choice : kPermissionChoices) {
-    if (choice.state == state) return &choice;
-  }
-  return nullptr;
-}
-
-}  // namespace
-
 GObject* get_object(GtkBuilder* builder, const char* id, GType type) {
   GObject* object = gtk_builder_get_object(builder, id);
   if (!object || !g_type_is_a(G_OBJECT_TYPE(object), type)) {
@@ -150,12 +137,12 @@ bool is_toggle_active(GnomeTCCapplet* panel, const char* button_id) {
 
 const char* permission_state_text(GnomeTCCapplet* panel,
                                   PermissionState state) {
-  const PermissionChoice* choice = ChoiceOf(state);
+  const PermissionChoice* choice = FindChoice(state);
   if (!choice) return "Unknown";
-  return text_or(panel, PermissionSetting::TextOf(state), choice->fallback);
+  return text_or(panel, choice->site_text_id, choice->fallback);
 }
 
 const char* permission_state_icon(PermissionState state) {
-  const PermissionChoice* choice = ChoiceOf(state);
+  const PermissionChoice* choice = FindChoice(state);
   return choice ? choice->icon : "icon_corvane_unknown";
 }

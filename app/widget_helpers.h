@@ -6,9 +6,7 @@
 #pragma once
 
 #include "app/gnome_tcc_applet.h"
-#include "model/permission_setting.h"
-
-using PermissionState = PermissionSetting::_SettingsPermissionState;
+#include "model/permissions.h"
 
 // The object with that id. When it is missing or of another type, the UI
 // definition and the code disagree: the program ends and says at which id.

@@ -81,7 +81,7 @@ void MeasureOneChange(const PrivateHome& home) {
       {{kPanel,
         [&] {
           for (std::size_t i = 0; i < kChanges; ++i) {
-            PermissionSetting(PermissionSetting::kCameraAndMic, site.c_str())
+            PermissionSetting(kPermissions[kCamera], site.c_str())
                 .setState(i % 2 ? PermissionSetting::kPermissionStateAlwaysDeny
                                 : PermissionSetting::kPermissionStateAlwaysAsk);
           }

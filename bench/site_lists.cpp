@@ -144,9 +144,13 @@ void MeasureFirstFill(GnomeTCCapplet* panel, const List& list,
 
 // Every look-up of a refill, and nothing else.
 void LookUpAll(GnomeTCCapplet* panel, const List& list) {
+  const Permission& permission =
+      kPermissions[kSitePermissions[list.mode].permission];
   const SASM::SDIVector* domains = panel->settings->GetDomains();
   for (unsigned int i = 0; i < domains->count; ++i) {
-    (void)kSitePermissions[list.mode].read(domains->At(i)->name);
+    (void)StoredState(permission,
+                      panel->settings->EnsureSettingsAreLoadedForDomain(
+                          domains->At(i)->name));
   }
 }
 

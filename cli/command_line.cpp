@@ -68,10 +68,10 @@ const auto* FindWord(const Rows& rows, std::string_view word) {
 bool ParseFilter(std::string_view text, CommandLine* command) {
   const std::size_t equals = text.find('=');
   if (equals != text.npos) {
-    const auto* kind = FindWord(kPermissions, text.substr(0, equals));
-    const auto* state = FindWord(kStates, text.substr(equals + 1));
-    if (kind && state) {
-      command->filters.push_back({kind->permission, state->state});
+    const auto* permission = FindWord(kPermissions, text.substr(0, equals));
+    const auto* choice = FindWord(kPermissionChoices, text.substr(equals + 1));
+    if (permission && choice) {
+      command->filters.push_back({permission->kind, choice->state});
       return true;
     }
   }

@@ -5,13 +5,13 @@
 #include <span>
 #include <vector>
 
-#include "cli/permission_words.h"
+#include "model/permissions.h"
 
 inline constexpr char kProgramName[] = "corvane-player-settings";
 
 // A condition on the sites to show.
 struct PermissionFilter {
-  Permission permission;
+  PermissionKind permission;
   PermissionState state;
 };
 

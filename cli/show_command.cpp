@@ -34,7 +34,7 @@ std::string TextOf(StringManager* strings, int id) {
 }
 
 std::string SizeText(double bytes) {
-  char text[80];
+  char text[StorageSetting::kSpaceTextSize];
   StorageSetting::FormatSpace(bytes, text, sizeof text);
   return text;
 }
@@ -46,14 +46,14 @@ std::string UsedText(std::uint64_t bytes) {
 }
 
 // The state, and of an allowed storage how much of it.
-std::string StateText(const PermissionStates& states, Permission permission,
+std::string StateText(const PermissionStates& states, PermissionKind permission,
                       double storage_limit_kb, StringManager* strings) {
-  const PermissionState state = states.Of(permission);
-  std::string text = TextOf(strings, PermissionSetting::TextOf(state));
-  if (permission == Permission::kStorage && storage_limit_kb > 0) {
+  std::string text =
+      TextOf(strings, FindChoice(states[permission])->site_text_id);
+  if (permission != kStorage) return text;
+  if (storage_limit_kb > 0) {
     text += " (" + SizeText(storage_limit_kb * 1024) + ")";
-  } else if (permission == Permission::kStorage &&
-             storage_limit_kb == StorageSetting::kUnlimited) {
+  } else if (storage_limit_kb == StorageSetting::kUnlimited) {
     text += " (∞)";
   }
   return text;
@@ -62,9 +62,9 @@ std::string StateText(const PermissionStates& states, Permission permission,
 void PrintGlobal(const GlobalSettings& global, StringManager* strings) {
   std::puts(TextOf(strings, kPanelTitle).c_str());
   TextTable table;
-  for (const PermissionWords& kind : kPermissions) {
-    table.Add({"  " + TextOf(strings, kind.global_title),
-               StateText(global.states, kind.permission,
+  for (const Permission& permission : kPermissions) {
+    table.Add({"  " + TextOf(strings, permission.global_title_id),
+               StateText(global.states, permission.kind,
                          global.storage_limit_kb, strings)});
   }
   table.Print();
@@ -74,15 +74,15 @@ void PrintSites(const std::vector<SiteRow>& sites, StringManager* strings) {
   TextTable table;
   TextTable::Row head = {TextOf(strings, kWebsiteTitle),
                          TextOf(strings, kStorageUsedTitle)};
-  for (const PermissionWords& kind : kPermissions) {
-    head.push_back(TextOf(strings, kind.site_title));
+  for (const Permission& permission : kPermissions) {
+    head.push_back(TextOf(strings, permission.site_title_id));
   }
   table.Add(std::move(head));
   for (const SiteRow& site : sites) {
     TextTable::Row row = {"  " + Printable(site.name->c_str()),
                           UsedText(site.settings.storage_used_bytes)};
-    for (const PermissionWords& kind : kPermissions) {
-      row.push_back(StateText(site.settings.states, kind.permission,
+    for (const Permission& permission : kPermissions) {
+      row.push_back(StateText(site.settings.states, permission.kind,
                               site.settings.storage_limit_kb, strings));
     }
     table.Add(std::move(row));
@@ -100,8 +100,9 @@ void PrintLocations(const SDIVector* locations, StringManager* strings) {
 
 void WriteStates(const PermissionStates& states, double storage_limit_kb,
                  JsonWriter* json) {
-  for (const PermissionWords& kind : kPermissions) {
-    json->Key(kind.word).Text(WordsOf(states.Of(kind.permission)).word);
+  for (const Permission& permission : kPermissions) {
+    const PermissionState state = states[permission.kind];
+    json->Key(permission.word).Text(FindChoice(state)->word);
   }
   json->Key("storage_limit_kb").Number(storage_limit_kb);
 }
@@ -137,10 +138,10 @@ void WriteStore(const StoreView& store, const std::vector<SiteRow>& sites) {
 }
 
 bool Passes(const PermissionStates& states, const CommandLine& command) {
-  return std::ranges::all_of(
-      command.filters, [&states](const PermissionFilter& filter) {
-        return states.Of(filter.permission) == filter.state;
-      });
+  return std::ranges::all_of(command.filters,
+                             [&states](const PermissionFilter& filter) {
+                               return states[filter.permission] == filter.state;
+                             });
 }
 
 // The sites that the panel would show and the user asked for. `*is_sound`

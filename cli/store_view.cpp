@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "model/storage_setting.h"
 #include "store/default_settings.h"
 #include "store/setting_keys.h"
 #include "store/stored_data.h"
@@ -11,29 +10,6 @@ using SASM::FindSetting;
 using SASM::SDIVector;
 using SASM::SettingsDictionary;
 using SASM::SimpleString;
-
-namespace {
-
-bool ReadBool(const char* key, const SettingsDictionary& dictionary) {
-  return SASM::BoolOr(FindSetting(key, dictionary), false);
-}
-
-double ReadLimit(const char* key, const SettingsDictionary& dictionary) {
-  return SASM::NumberOr(FindSetting(key, dictionary), SettingBase::kNoNumber);
-}
-
-PermissionState ReadState(const PermissionSetting::Keys& keys,
-                          const SettingsDictionary& dictionary) {
-  return PermissionSetting::StateOf(ReadBool(keys.always, dictionary),
-                                    ReadBool(keys.allow, dictionary));
-}
-
-// Of a switch that blocks all sites.
-PermissionState SwitchState(bool blocks) {
-  return PermissionSetting::StateOf(blocks, false);
-}
-
-}  // namespace
 
 StoreView::StoreView(const SASM::FileManager& files)
     : files_(files), layout_(&files) {
@@ -51,18 +27,11 @@ StoreView::StoreView(const SASM::FileManager& files)
 
 GlobalSettings StoreView::Global() const {
   GlobalSettings global;
-  global.storage_limit_kb = ReadLimit(SASM::kDefaultStorageLimit, *master_);
-  global.states.Set(Permission::kStorage, StorageSetting::kbToPermissionSetting(
-                                              global.storage_limit_kb));
-  global.states.Set(
-      Permission::kCamera,
-      SwitchState(ReadBool(SASM::kDefaultCameraAlways, *master_)));
-  global.states.Set(Permission::kNetwork, SwitchState(BlocksNetwork()));
+  for (const Permission& permission : kPermissions) {
+    global.states[permission.kind] = GlobalState(permission, master_.get());
+  }
+  global.storage_limit_kb = GlobalLimitKb(master_.get());
   return global;
-}
-
-bool StoreView::BlocksNetwork() const {
-  return ReadBool(SASM::kDisallowP2PUplink, *master_);
 }
 
 const SDIVector* StoreView::TrustedLocations() const {
@@ -78,22 +47,14 @@ bool StoreView::IsKnown(const SimpleString& site) const {
 }
 
 SiteSettings StoreView::Read(const SimpleString& name) const {
-  SettingsOnDisk on_disk = ReadSettings(layout_.SettingsFileOf(name));
-  const SettingsDictionary nothing;
-  const SettingsDictionary& stored =
-      on_disk.dictionary ? *on_disk.dictionary : nothing;
+  const SettingsOnDisk on_disk = ReadSettings(layout_.SettingsFileOf(name));
   SiteSettings site;
-  site.is_sound = on_disk.is_sound;
-  site.storage_limit_kb = ReadLimit(SASM::kStorageLimit, stored);
+  for (const Permission& permission : kPermissions) {
+    site.states[permission.kind] =
+        EffectiveState(permission, master_.get(), on_disk.dictionary.get());
+  }
+  site.storage_limit_kb = StoredLimitKb(on_disk.dictionary.get());
   site.storage_used_bytes = SASM::LocalStorageSize(name, layout_, files_);
-  site.states.Set(Permission::kStorage,
-                  StorageSetting::kbToPermissionSetting(site.storage_limit_kb));
-  site.states.Set(Permission::kCamera,
-                  ReadState(PermissionSetting::kCameraAndMic, stored));
-  site.states.Set(Permission::kNetwork,
-                  PermissionSetting::StateOfSite(BlocksNetwork(), [&] {
-                    return ReadState(PermissionSetting::kPeerAssistedNetworking,
-                                     stored);
-                  }));
+  site.is_sound = on_disk.is_sound;
   return site;
 }

@@ -1,19 +1,23 @@
 // The store as the panel would show it, from files that are only read.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
-#include "cli/permission_words.h"
 #include "cli/settings_source.h"
+#include "model/permissions.h"
 #include "store/store_layout.h"
 
+// A state for each of kPermissions.
+using PermissionStates = std::array<PermissionState, kPermissionCount>;
+
 struct GlobalSettings {
-  PermissionStates states;
+  PermissionStates states = {};
   double storage_limit_kb = 0;
 };
 
 struct SiteSettings {
-  PermissionStates states;
+  PermissionStates states = {};
   double storage_limit_kb = 0;
   std::uint64_t storage_used_bytes = 0;
   bool is_sound = false;
@@ -42,8 +46,6 @@ class StoreView {
   [[nodiscard]] SiteSettings Read(const SASM::SimpleString& name) const;
 
  private:
-  [[nodiscard]] bool BlocksNetwork() const;
-
   const SASM::FileManager& files_;
   SASM::StoreLayout layout_;
   std::unique_ptr<SASM::SettingsDictionary> master_;

@@ -9,9 +9,10 @@ PermissionSetting::PermissionSetting(const char* always_key,
       always_key_(always_key),
       allow_key_(allow_key) {}
 
-PermissionSetting::PermissionSetting(const Keys& keys,
+PermissionSetting::PermissionSetting(const Permission& permission,
                                      SASM::SimpleString domain)
-    : PermissionSetting(keys.always, keys.allow, std::move(domain)) {}
+    : PermissionSetting(permission.always_key, permission.allow_key,
+                        std::move(domain)) {}
 
 PermissionSetting::_SettingsPermissionState PermissionSetting::getState() {
   const bool always = getBoolValue(always_key_);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "store/setting_keys.h"
+#include "model/permission_changes.h"
 
 using SASM::SimpleString;
 using State = StorageSetting::State;
@@ -46,22 +46,11 @@ bool StorageSetting::commit() {
   setValue(permissionSettingToKB(pending_state_));
   bool deleted = true;
   if (is_master_) {
-    deleted = CommitToAllSites();
+    deleted = SetStateOfListedSites(kPermissions[kStorage], pending_state_);
   } else if (pending_state_ == PermissionSetting::kPermissionStateAlwaysDeny) {
     deleted = mSettingsManager->RemoveDomainInformation(Domain(), false, true);
   }
   pending_state_ = PermissionSetting::kPermissionStateNone;
-  return deleted;
-}
-
-bool StorageSetting::CommitToAllSites() {
-  bool deleted = true;
-  const SASM::SDIVector* domains = mSettingsManager->GetDomains();
-  for (unsigned int i = 0; domains && i < domains->count; ++i) {
-    StorageSetting site(SASM::kStorageLimit, domains->At(i)->name);
-    if (site.is_master_) continue;  // it would come back here for ever
-    deleted = site.setPermissionState(pending_state_).commit() && deleted;
-  }
   return deleted;
 }
 

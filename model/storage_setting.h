@@ -50,6 +50,7 @@ class StorageSetting : public SettingBase {
   [[nodiscard]] double spaceUsed();
   // The space used as text in the user's language, cut to `size` bytes with
   // its zero.
+  static constexpr int kSpaceTextSize = 80;  // fits every text
   void formatSpaceUsed(char* buffer, int size);
   static void FormatSpace(double bytes, char* buffer, int size);
 
@@ -66,7 +67,6 @@ class StorageSetting : public SettingBase {
 
  private:
   [[nodiscard]] bool HasPendingPosition() const;
-  bool CommitToAllSites();
   [[nodiscard]] static const char* LabelOf(int position);
   static void FetchTexts();
 

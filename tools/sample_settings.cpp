@@ -2,33 +2,35 @@
 // locations, for pictures that show more than empty lists.
 #include <glib.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 
-#include "app/site_lists.h"
+#include "model/permission_changes.h"
+#include "model/setting_base.h"
 #include "platform/linux_file_manager.h"
 #include "store/setting_keys.h"
 
 namespace {
 
-constexpr auto kBlock = PermissionSetting::kPermissionStateAlwaysDeny;
-constexpr auto kAsk = PermissionSetting::kPermissionStateAlwaysAsk;
-constexpr auto kAllow = PermissionSetting::kPermissionStateAlwaysAllow;
+constexpr auto kBlock = kPermissionStateAlwaysDeny;
+constexpr auto kAsk = kPermissionStateAlwaysAsk;
+constexpr auto kAllow = kPermissionStateAlwaysAllow;
 
 struct SampleSite {
   const char* domain;
   std::size_t stored_bytes;
-  // By SitePermissionMode.
-  PermissionState permissions[3];
+  // By PermissionKind.
+  PermissionState states[kPermissionCount];
 };
 
 constexpr SampleSite kSites[] = {
-    {"games.example.com", 2480000, {kAsk, kAllow, kAllow}},
+    {"games.example.com", 2480000, {kAllow, kAsk, kAllow}},
     {"lectures.university.example", 61000, {kAllow, kAllow, kAsk}},
-    {"meet.example.org", 0, {kAllow, kAsk, kAllow}},
+    {"meet.example.org", 0, {kAsk, kAllow, kAllow}},
     {"a-very-long-name-of-a-web-site.somewhere.example.net",
      900,
-     {kBlock, kAsk, kBlock}},
+     {kAsk, kBlock, kBlock}},
     {"advertisements.example", 0, {kBlock, kBlock, kBlock}},
 };
 
@@ -62,10 +64,9 @@ bool AddSite(const SampleSite& site) {
           site.domain)) {
     return false;
   }
-  for (int mode = 0; mode < 3; ++mode) {
-    kSitePermissions[mode].write(site.domain, site.permissions[mode]);
-  }
-  return true;
+  return std::ranges::all_of(kPermissions, [&](const Permission& permission) {
+    return SetSiteState(permission, site.domain, site.states[permission.kind]);
+  });
 }
 
 void AddTrustedLocations() {

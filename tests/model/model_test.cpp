@@ -67,7 +67,7 @@ TEST_F(Setting, PermissionIsWrittenAlwaysFirst) {
       {kNone, "always=true allow=false", "always=true allow=false"},
   };
   BeginSite("");
-  PermissionSetting setting(PermissionSetting::kCameraAndMic, "a");
+  PermissionSetting setting(kPermissions[kCamera], "a");
   EXPECT_EQ(setting.getState(), kAsk);
   for (const auto& c : cases) {
     SCOPED_TRACE(c.then);

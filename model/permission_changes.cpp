@@ -1,0 +1,46 @@
+#include "model/permission_changes.h"
+
+#include "model/storage_setting.h"
+
+using SASM::SettingsManager;
+using SASM::SimpleString;
+
+bool SetSiteState(const Permission& permission, const SimpleString& site,
+                  PermissionState state) {
+  if (permission.limit_key) {
+    return StorageSetting(permission.limit_key, site)
+        .setPermissionState(state)
+        .commit();
+  }
+  PermissionSetting(permission, site).setState(state);
+  return true;
+}
+
+bool SetStateOfListedSites(const Permission& permission,
+                           PermissionState state) {
+  bool all_done = true;
+  const SASM::SDIVector* sites = SettingBase::mSettingsManager->GetDomains();
+  for (unsigned int i = 0; sites && i < sites->count; ++i) {
+    const SimpleString& site = sites->At(i)->name;
+    // A limit of the master domain is set for all sites, which would not end.
+    if (permission.limit_key && site == SettingsManager::MasterDomain()) {
+      continue;
+    }
+    all_done = SetSiteState(permission, site, state) && all_done;
+  }
+  return all_done;
+}
+
+bool SetGlobalState(const Permission& permission, PermissionState state) {
+  const SimpleString& master = SettingsManager::MasterDomain();
+  if (permission.limit_key) {
+    return StorageSetting(permission.global_key, master)
+        .setPermissionState(state)
+        .commit();
+  }
+  const bool blocks = state == kPermissionStateAlwaysDeny;
+  SettingBase(permission.global_key, master)
+      .setBoolValue(blocks, permission.global_key);
+  return permission.switch_overrides_sites ||
+         SetStateOfListedSites(permission, StateOf(blocks, false));
+}

@@ -1,0 +1,163 @@
+// The permissions of sites: where each is kept, what it is called, and what is
+// in force. Works on dictionaries and touches no file.
+#pragma once
+
+#include <cstddef>
+#include <iterator>
+
+#include "settings/hash_map.h"
+#include "store/setting_keys.h"
+
+// The numbers are those of the permission choices in lists and combo boxes.
+enum PermissionState : int {
+  kPermissionStateNone = 0,
+  kPermissionStateAlwaysDeny = 1,
+  kPermissionStateAlwaysAsk = 2,
+  kPermissionStateAlwaysAllow = 3,
+};
+
+// A state that a user can choose.
+struct PermissionChoice {
+  PermissionState state;
+  // On the command line and in JSON.
+  const char* word;
+  // Ids of texts: in a site's row, and as a choice in a combo box.
+  int site_text_id;
+  int choice_text_id;
+  // Shown in a site's row when the table has no text.
+  const char* fallback;
+  // A stock id.
+  const char* icon;
+};
+
+// In the order of the rows of the list store permission_settings.
+inline constexpr PermissionChoice kPermissionChoices[] = {
+    {.state = kPermissionStateAlwaysDeny,
+     .word = "block",
+     .site_text_id = 11100,
+     .choice_text_id = 11100,
+     .fallback = "Block",
+     .icon = "icon_corvane_always_deny"},
+    {.state = kPermissionStateAlwaysAsk,
+     .word = "ask",
+     .site_text_id = 11101,
+     .choice_text_id = 11103,
+     .fallback = "Ask",
+     .icon = "icon_corvane_always_ask"},
+    {.state = kPermissionStateAlwaysAllow,
+     .word = "allow",
+     .site_text_id = 11102,
+     .choice_text_id = 11102,
+     .fallback = "Allow",
+     .icon = "icon_corvane_always_allow"},
+};
+
+// Null for None and for a number that is no state.
+[[nodiscard]] constexpr const PermissionChoice* FindChoice(
+    PermissionState state) {
+  for (const PermissionChoice& choice : kPermissionChoices) {
+    if (choice.state == state) return &choice;
+  }
+  return nullptr;
+}
+
+// Indexes of kPermissions.
+enum PermissionKind : unsigned int { kStorage, kCamera, kNetwork };
+
+struct Permission {
+  PermissionKind kind;
+  // On the command line and in JSON.
+  const char* word;
+
+  // Keys of a site's settings: either a limit in kB, or two booleans, of which
+  // the first says whether the decision is fixed and the second what it is.
+  const char* limit_key = nullptr;
+  const char* always_key = nullptr;
+  const char* allow_key = nullptr;
+
+  // Key of the global settings: a limit as well, or a switch that blocks all
+  // sites.
+  const char* global_key;
+  // True: the switch overrides what the sites have stored, and leaves it
+  // stored. False: a global state is written to every listed site too.
+  bool switch_overrides_sites = false;
+
+  // What a new site is offered; None stands for the global state.
+  PermissionState new_site_state = kPermissionStateNone;
+
+  // Ids of texts.
+  int global_title_id;
+  int site_title_id;
+  int new_site_title_id;
+  int new_site_label_id;
+};
+
+inline constexpr Permission kPermissions[] = {
+    {.kind = kStorage,
+     .word = "storage",
+     .limit_key = SASM::kStorageLimit,
+     .global_key = SASM::kDefaultStorageLimit,
+     .global_title_id = 21001,
+     .site_title_id = 61003,
+     .new_site_title_id = 21107,
+     .new_site_label_id = 21108},
+    {.kind = kCamera,
+     .word = "camera",
+     .always_key = SASM::kCameraAlways,
+     .allow_key = SASM::kCameraAllow,
+     .global_key = SASM::kDefaultCameraAlways,
+     .global_title_id = 31001,
+     .site_title_id = 61001,
+     .new_site_title_id = 31006,
+     .new_site_label_id = 31007},
+    {.kind = kNetwork,
+     .word = "network",
+     .always_key = SASM::kP2PAlways,
+     .allow_key = SASM::kP2PAllow,
+     .global_key = SASM::kDisallowP2PUplink,
+     .switch_overrides_sites = true,
+     .new_site_state = kPermissionStateAlwaysAllow,
+     .global_title_id = 41001,
+     .site_title_id = 61002,
+     .new_site_title_id = 41200,
+     .new_site_label_id = 41201},
+};
+inline constexpr std::size_t kPermissionCount = std::size(kPermissions);
+static_assert(kPermissions[kStorage].kind == kStorage &&
+              kPermissions[kCamera].kind == kCamera &&
+              kPermissions[kNetwork].kind == kNetwork);
+
+// What the two booleans of a site mean.
+[[nodiscard]] constexpr PermissionState StateOf(bool always, bool allow) {
+  if (!always) return kPermissionStateAlwaysAsk;
+  return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
+}
+
+// In all that follows a null dictionary counts as an empty one. A setting that
+// is missing or of another type counts as false, or as the limit of Block.
+
+// What is stored for a site, whether or not it is in force.
+[[nodiscard]] PermissionState StoredState(const Permission& permission,
+                                          const SASM::SettingsDictionary* site);
+
+// What is stored for all sites.
+[[nodiscard]] PermissionState GlobalState(
+    const Permission& permission, const SASM::SettingsDictionary* master);
+
+// True when all sites are blocked, whatever they have stored.
+[[nodiscard]] bool IsBlockedEverywhere(const Permission& permission,
+                                       const SASM::SettingsDictionary* master);
+
+// What is in force for a site. Does not read `site` when the permission is
+// blocked everywhere.
+[[nodiscard]] PermissionState EffectiveState(
+    const Permission& permission, const SASM::SettingsDictionary* master,
+    const SASM::SettingsDictionary* site);
+
+// What a new site is offered.
+[[nodiscard]] PermissionState NewSiteState(
+    const Permission& permission, const SASM::SettingsDictionary* master);
+
+// Limits of stored data in kB, or one of the codes of StorageSetting.
+[[nodiscard]] double StoredLimitKb(const SASM::SettingsDictionary* site);
+[[nodiscard]] double GlobalLimitKb(const SASM::SettingsDictionary* master);
