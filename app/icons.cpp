@@ -3,18 +3,19 @@
 #include <gtk/gtk.h>
 
 #include "app/ui_definition.h"
+#include "model/permissions.h"
 
 namespace {
 
 struct StockIcon {
-  const char* name;
+  PermissionState state;
   const guint8* pixdata;
 };
 
 constexpr StockIcon kStockIcons[] = {
-    {"icon_corvane_always_allow", always_allow_pixdata},
-    {"icon_corvane_always_ask", always_ask_pixdata},
-    {"icon_corvane_always_deny", always_deny_pixdata},
+    {kPermissionStateAlwaysAllow, always_allow_pixdata},
+    {kPermissionStateAlwaysAsk, always_ask_pixdata},
+    {kPermissionStateAlwaysDeny, always_deny_pixdata},
 };
 
 constexpr const guint8* kWindowIcons[] = {
@@ -38,7 +39,7 @@ void register_permission_icons() {
   for (const StockIcon& icon : kStockIcons) {
     GdkPixbuf* picture = NewPicture(icon.pixdata);
     GtkIconSet* icon_set = gtk_icon_set_new_from_pixbuf(picture);
-    gtk_icon_factory_add(factory, icon.name, icon_set);
+    gtk_icon_factory_add(factory, FindChoice(icon.state)->icon, icon_set);
     gtk_icon_set_unref(icon_set);
     g_object_unref(picture);
   }

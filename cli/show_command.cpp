@@ -53,7 +53,7 @@ std::string StateText(const PermissionStates& states, PermissionKind permission,
   if (permission != kStorage) return text;
   if (storage_limit_kb > 0) {
     text += " (" + SizeText(storage_limit_kb * 1024) + ")";
-  } else if (storage_limit_kb == StorageSetting::kUnlimited) {
+  } else if (storage_limit_kb == kUnlimited) {
     text += " (∞)";
   }
   return text;

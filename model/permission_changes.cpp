@@ -5,12 +5,19 @@
 using SASM::SettingsManager;
 using SASM::SimpleString;
 
+namespace {
+
+bool CommitLimit(const char* key, const SimpleString& domain,
+                 PermissionState state) {
+  return StorageSetting(key, domain).setPermissionState(state).commit();
+}
+
+}  // namespace
+
 bool SetSiteState(const Permission& permission, const SimpleString& site,
                   PermissionState state) {
   if (permission.limit_key) {
-    return StorageSetting(permission.limit_key, site)
-        .setPermissionState(state)
-        .commit();
+    return CommitLimit(permission.limit_key, site, state);
   }
   PermissionSetting(permission, site).setState(state);
   return true;
@@ -34,9 +41,7 @@ bool SetStateOfListedSites(const Permission& permission,
 bool SetGlobalState(const Permission& permission, PermissionState state) {
   const SimpleString& master = SettingsManager::MasterDomain();
   if (permission.limit_key) {
-    return StorageSetting(permission.global_key, master)
-        .setPermissionState(state)
-        .commit();
+    return CommitLimit(permission.global_key, master, state);
   }
   const bool blocks = state == kPermissionStateAlwaysDeny;
   SettingBase(permission.global_key, master)

@@ -1,7 +1,5 @@
 #include "model/permissions.h"
 
-#include "model/storage_setting.h"
-
 using SASM::SettingDataItem;
 using SASM::SettingsDictionary;
 
@@ -17,7 +15,7 @@ bool ReadBool(const char* key, const SettingsDictionary* dictionary) {
 }
 
 double ReadLimitKb(const char* key, const SettingsDictionary* dictionary) {
-  return SASM::NumberOr(Find(key, dictionary), SettingBase::kNoNumber);
+  return SASM::NumberOr(Find(key, dictionary), kLimitOfBlock);
 }
 
 }  // namespace
@@ -25,8 +23,7 @@ double ReadLimitKb(const char* key, const SettingsDictionary* dictionary) {
 PermissionState StoredState(const Permission& permission,
                             const SettingsDictionary* site) {
   if (permission.limit_key) {
-    return StorageSetting::kbToPermissionSetting(
-        ReadLimitKb(permission.limit_key, site));
+    return StateOfLimit(ReadLimitKb(permission.limit_key, site));
   }
   const bool always = ReadBool(permission.always_key, site);
   return StateOf(always, always && ReadBool(permission.allow_key, site));
@@ -35,8 +32,7 @@ PermissionState StoredState(const Permission& permission,
 PermissionState GlobalState(const Permission& permission,
                             const SettingsDictionary* master) {
   if (permission.limit_key) {
-    return StorageSetting::kbToPermissionSetting(
-        ReadLimitKb(permission.global_key, master));
+    return StateOfLimit(ReadLimitKb(permission.global_key, master));
   }
   return StateOf(ReadBool(permission.global_key, master), false);
 }

@@ -1,5 +1,5 @@
-// The permissions of sites: where each is kept, what it is called, and what is
-// in force. Works on dictionaries and touches no file.
+// The permissions of sites: where each is kept, what it is called, and which
+// state is in force. Reads dictionaries and touches no file.
 #pragma once
 
 #include <cstddef>
@@ -16,6 +16,11 @@ enum PermissionState : int {
   kPermissionStateAlwaysAllow = 3,
 };
 
+// A limit of stored data is a number of kilobytes, or one of these.
+inline constexpr double kLimitOfBlock = -1.0;
+inline constexpr double kLimitOfAsk = 0.0;
+inline constexpr double kUnlimited = -2.0;
+
 // A state that a user can choose.
 struct PermissionChoice {
   PermissionState state;
@@ -28,6 +33,8 @@ struct PermissionChoice {
   const char* fallback;
   // A stock id.
   const char* icon;
+  // Stored when this state is chosen for storage.
+  double limit_kb;
 };
 
 // In the order of the rows of the list store permission_settings.
@@ -37,19 +44,22 @@ inline constexpr PermissionChoice kPermissionChoices[] = {
      .site_text_id = 11100,
      .choice_text_id = 11100,
      .fallback = "Block",
-     .icon = "icon_corvane_always_deny"},
+     .icon = "icon_corvane_always_deny",
+     .limit_kb = kLimitOfBlock},
     {.state = kPermissionStateAlwaysAsk,
      .word = "ask",
      .site_text_id = 11101,
      .choice_text_id = 11103,
      .fallback = "Ask",
-     .icon = "icon_corvane_always_ask"},
+     .icon = "icon_corvane_always_ask",
+     .limit_kb = kLimitOfAsk},
     {.state = kPermissionStateAlwaysAllow,
      .word = "allow",
      .site_text_id = 11102,
      .choice_text_id = 11102,
      .fallback = "Allow",
-     .icon = "icon_corvane_always_allow"},
+     .icon = "icon_corvane_always_allow",
+     .limit_kb = 100.0},
 };
 
 // Null for None and for a number that is no state.
@@ -82,7 +92,7 @@ struct Permission {
   // stored. False: a global state is written to every listed site too.
   bool switch_overrides_sites = false;
 
-  // What a new site is offered; None stands for the global state.
+  // The state offered for a new site; None stands for the global state.
   PermissionState new_site_state = kPermissionStateNone;
 
   // Ids of texts.
@@ -127,20 +137,28 @@ static_assert(kPermissions[kStorage].kind == kStorage &&
               kPermissions[kCamera].kind == kCamera &&
               kPermissions[kNetwork].kind == kNetwork);
 
-// What the two booleans of a site mean.
+// The state that two booleans of a site stand for.
 [[nodiscard]] constexpr PermissionState StateOf(bool always, bool allow) {
   if (!always) return kPermissionStateAlwaysAsk;
   return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
 }
 
-// In all that follows a null dictionary counts as an empty one. A setting that
-// is missing or of another type counts as false, or as the limit of Block.
+// The state that a limit stands for: Block for every other negative one.
+[[nodiscard]] constexpr PermissionState StateOfLimit(double limit_kb) {
+  if (limit_kb > 0 || limit_kb == kUnlimited) {
+    return kPermissionStateAlwaysAllow;
+  }
+  return limit_kb < 0 ? kPermissionStateAlwaysDeny : kPermissionStateAlwaysAsk;
+}
 
-// What is stored for a site, whether or not it is in force.
+// The functions below take a null dictionary as an empty one. A setting that
+// is missing or of another type counts as false, a limit as that of Block.
+
+// The state stored for a site, whether or not it is in force.
 [[nodiscard]] PermissionState StoredState(const Permission& permission,
                                           const SASM::SettingsDictionary* site);
 
-// What is stored for all sites.
+// The state stored for all sites.
 [[nodiscard]] PermissionState GlobalState(
     const Permission& permission, const SASM::SettingsDictionary* master);
 
@@ -148,16 +166,16 @@ static_assert(kPermissions[kStorage].kind == kStorage &&
 [[nodiscard]] bool IsBlockedEverywhere(const Permission& permission,
                                        const SASM::SettingsDictionary* master);
 
-// What is in force for a site. Does not read `site` when the permission is
+// The state in force for a site. `site` is not read when the permission is
 // blocked everywhere.
 [[nodiscard]] PermissionState EffectiveState(
     const Permission& permission, const SASM::SettingsDictionary* master,
     const SASM::SettingsDictionary* site);
 
-// What a new site is offered.
+// The state offered for a new site.
 [[nodiscard]] PermissionState NewSiteState(
     const Permission& permission, const SASM::SettingsDictionary* master);
 
-// Limits of stored data in kB, or one of the codes of StorageSetting.
+// The limit stored for a site, and for all sites.
 [[nodiscard]] double StoredLimitKb(const SASM::SettingsDictionary* site);
 [[nodiscard]] double GlobalLimitKb(const SASM::SettingsDictionary* master);

@@ -28,7 +28,7 @@ SettingBase::SettingBase(SimpleString key, SimpleString domain)
   if (!mSettingsManager) mSettingsManager = MakeManager();
 }
 
-// A write that fails shows in what the manager then holds, not here.
+// The setters report no failure: a control shows what the manager then holds.
 void SettingBase::Store(const SimpleString& key, SASM::_SettingsDataType type,
                         const void* data) {
   SettingDataItem item(key, type, data);

@@ -3,20 +3,20 @@
 
 #include "store/settings_manager.h"
 
-// Names a setting. Caches nothing: every get asks the settings manager, every
-// set writes the domain's file at once. A missing setting, and one of another
-// type, reads as -1.0, false or null. Built where it is needed and dropped.
+// Names a setting, and is built where it is needed. Caches nothing: every get
+// asks the settings manager, every set writes the domain's file at once. A
+// setting that is missing or of another type reads as -1.0, false or null.
 class SettingBase {
  public:
-  // Copies both. The first setting built in a process creates its settings
-  // manager, which loads the master settings.
+  // The first object of this class in a process creates its settings manager,
+  // which loads the master settings.
   SettingBase(SASM::SimpleString key, SASM::SimpleString domain);
 
   void setDoubleValue(double value);
-  // Of `key`, not of the setting's own key; likewise getBoolValue.
+  // Sets `key`, not the object's own key; getBoolValue likewise.
   void setBoolValue(bool value, const SASM::SimpleString& key);
-  // Stores a deep copy; the caller keeps `value`, which may be the stored
-  // list itself. Null stores nothing.
+  // Stores a deep copy. The caller keeps `value`, which may be the stored list
+  // itself; null is ignored.
   void setVectorValue(SASM::SDIVector* value);
 
   [[nodiscard]] double getDoubleValue() const;
@@ -24,11 +24,11 @@ class SettingBase {
   // The stored list itself, borrowed until the setting is replaced.
   [[nodiscard]] SASM::SDIVector* getVectorValue();
 
-  // What a missing number reads as.
+  // A missing number reads as this.
   static constexpr double kNoNumber = -1.0;
 
   // The one manager of the process, never freed; null before the first
-  // setting is built.
+  // object of this class is built.
   static SASM::SettingsManager* mSettingsManager;
 
  protected:

@@ -1,77 +1,67 @@
 // The limit of the data that a site may store.
 #pragma once
 
-#include <cstdint>
-
 #include "model/permission_setting.h"
 
-// Shows a limit in kilobytes as a permission, as a slider position with a
-// label, and beside it the space that the site uses now. A missing limit
-// counts as Block.
+// Shows a limit in kilobytes as a permission and as a slider position with a
+// label, and shows how much the site stores now. A missing limit reads as
+// Block.
 //
-// Changes are staged and written by commit(). A staged slider position comes
-// before a staged permission.
+// Changes are staged and written by commit(). A staged slider position takes
+// precedence over a staged permission.
 class StorageSetting : public SettingBase {
  public:
-  using State = PermissionSetting::_SettingsPermissionState;
-
-  // Limits that are codes.
-  static constexpr double kBlock = -1.0;
-  static constexpr double kAsk = 0.0;
-  static constexpr double kUnlimited = -2.0;
-
   StorageSetting(const char* key, SASM::SimpleString domain);
 
-  // Both stage a change. Positions run from -1 to 5, see kSliderPositions.
+  // Stage a change. Positions run from -1 to 5.
   StorageSetting& setSliderSetting(int position);
-  StorageSetting& setPermissionState(State state);
+  StorageSetting& setPermissionState(PermissionState state);
   // Drops a staged slider position; a staged permission stays.
   void revert();
 
-  // Writes what is staged. A permission of the master domain is given to
-  // every known site as well, and Block deletes the stored data of the sites
-  // it reaches. False only when a site's data could not be deleted; the
-  // limits are stored all the same.
+  // Writes what is staged. A permission of the master domain is also given to
+  // every listed site. Block deletes the stored data of each site that it is
+  // given to: false when that failed, with the limits stored all the same. A
+  // slider position changes this one limit and deletes nothing.
   bool commit();
-  // Writes at once.
+  // Write at once, and drop a staged slider position.
   void setValue(double limit_kb);
   void setDontAsk(bool dont_ask);
 
   [[nodiscard]] double getValue() const;
-  // What is staged, or else what is stored. They differ in a stored Block:
-  // position 0 of the slider, position -1 of the combo box.
-  [[nodiscard]] State getPermissionState();
+  // What is staged, or else what is stored. A stored Block is position 0 of
+  // the slider and position -1 of the combo box.
+  [[nodiscard]] PermissionState getPermissionState();
   [[nodiscard]] int getSliderSetting() const;
   [[nodiscard]] int getComboboxSetting() const;
-  // A constant English text.
+  // English in every language; constant.
   [[nodiscard]] const char* getSliderLabel() const;
 
-  // Bytes of the domain's local storage now.
+  // The size of the domain's local storage in bytes.
   [[nodiscard]] double spaceUsed();
-  // The space used as text in the user's language, cut to `size` bytes with
-  // its zero.
-  static constexpr int kSpaceTextSize = 80;  // fits every text
+  // Writes the space used as text in the user's language, cut to `size` bytes
+  // including the terminating zero; kSpaceTextSize is enough for any.
+  static constexpr int kSpaceTextSize = 80;
   void formatSpaceUsed(char* buffer, int size);
   static void FormatSpace(double bytes, char* buffer, int size);
 
-  // Whether what is staged lowers the stored limit.
+  // True when what is staged lowers the stored limit.
   [[nodiscard]] bool isSettingLessThanOldValue();
-  // Whether the site uses more than what is staged, or else stored, allows;
-  // the codes count as the numbers they are.
+  // True when the site stores more than the staged, or else the stored, limit
+  // allows. The codes are taken as the numbers they are.
   [[nodiscard]] bool isLessThanSpaceUsed();
 
   [[nodiscard]] static double linearSettingToKB(int position);
   [[nodiscard]] static int kbToLinearSetting(double limit_kb);
-  [[nodiscard]] static double permissionSettingToKB(State state);
-  [[nodiscard]] static State kbToPermissionSetting(double limit_kb);
+  [[nodiscard]] static double permissionSettingToKB(PermissionState state);
+  [[nodiscard]] static PermissionState kbToPermissionSetting(double limit_kb);
 
  private:
   [[nodiscard]] bool HasPendingPosition() const;
-  [[nodiscard]] static const char* LabelOf(int position);
   static void FetchTexts();
 
-  // The texts of sizes, in the language of the first setting built. Constant,
-  // owned by the string table.
+  // Texts of sizes, in the language chosen when the first one is needed.
+  // Owned by the table of texts; null before.
   static const char* mNoneString;
   static const char* mBytesFormat;
   static const char* mKBFormat;
@@ -79,6 +69,6 @@ class StorageSetting : public SettingBase {
   static const char* mGBFormat;
 
   int pending_position_;
-  State pending_state_ = PermissionSetting::kPermissionStateNone;
+  PermissionState pending_state_ = kPermissionStateNone;
   bool is_master_;
 };

@@ -37,7 +37,7 @@ bool RemoveSite(Panel& panel) {
 bool BlockStorageEverywhere(Panel&) {
   StorageSetting limit("defaultklimit", Panel::Master());
   return limit
-      .setPermissionState(StorageSetting::State::kPermissionStateAlwaysDeny)
+      .setPermissionState(PermissionState::kPermissionStateAlwaysDeny)
       .commit();
 }
 
