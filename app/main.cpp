@@ -3,8 +3,10 @@
 
 #include "app/command_line.h"
 #include "app/start_up.h"
+#include "settings/out_of_memory.h"
 
 int main(int argc, char** argv) {
+  ExitWhenOutOfMemory();
   // Without a display --help still answers, and everything else is told by
   // the command line's own message.
   (void)gtk_init_check(&argc, &argv);

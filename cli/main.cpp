@@ -6,6 +6,7 @@
 
 #include "cli/commands.h"
 #include "cli/problems.h"
+#include "settings/out_of_memory.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ bool CloseOutput() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  ExitWhenOutOfMemory();
   CommandLine command;
   const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
   if (!ParseCommandLine(arguments, &command)) return kUsage;
