@@ -9,9 +9,6 @@
 namespace SMImplementation {
 namespace {
 
-constexpr unsigned int kShortHeaderSize = 2;
-constexpr unsigned int kLongHeaderSize = 6;
-
 void StoreRecordHeader(unsigned int body_size, unsigned char* bytes) {
   const bool is_short = body_size < kLongLengthFollows;
   const unsigned int length = is_short ? body_size : kLongLengthFollows;
@@ -41,7 +38,7 @@ void SettingsWriter::GetNewSettingsWithName(const SASM::SimpleString& name,
   if (!*data) return;
   length = header_size + body_size;
   StoreRecordHeader(static_cast<unsigned int>(body_size), *data);
-  (void)aggregator_.GetData(body_size, *data + header_size);  // it holds them
+  (void)aggregator_.GetData(body_size, *data + header_size);  // all of them
 }
 
 void SettingsWriter::WriteHeaderInfo(const SASM::SimpleString& name) {
@@ -80,7 +77,7 @@ void SettingsWriter::WriteScalar(const SASM::SettingDataItem& item) {
     aggregator_.WriteDouble(item.value.number);
   } else if (item.type == SASM::kSettingsDataTypeBool) {
     aggregator_.WriteU8(item.value.boolean ? 1 : 0);
-  } else if (item.type == SASM::kSettingsDataTypeString && item.value.string) {
+  } else if (item.type == SASM::kSettingsDataTypeString) {
     aggregator_.WriteSimpleStringAsPString(*item.value.string);
   }
 }
@@ -88,12 +85,12 @@ void SettingsWriter::WriteScalar(const SASM::SettingDataItem& item) {
 void SettingsWriter::WriteArray(const SASM::SDIVector& array) {
   for (unsigned int i = 0; i < array.count; ++i) {
     const SASM::SettingDataItem& element = *array.At(i);
-    if (element.name.IsEmpty()) continue;  // would read as the array's end
+    if (element.name.IsEmpty()) continue;  // would end the array
     aggregator_.WriteSimpleStringAsPString(element.name);
     aggregator_.WriteSettingsDataType(element.type);
     WriteScalar(element);
   }
-  aggregator_.WriteU16(0);
+  aggregator_.WriteU16(0);  // an empty name
   aggregator_.WriteU8(kEndOfArray);
 }
 

@@ -11,18 +11,18 @@ class SettingsManager;
 
 namespace SMImplementation {
 
-// Builds the settings image of one domain. Made for one domain, asked once,
-// dropped: what it has appended stays.
+// Builds the settings image of one domain. Make one writer per image: it keeps
+// everything it has appended.
 class SettingsWriter {
  public:
   // The manager is borrowed and outlives the writer.
   SettingsWriter(SASM::SettingsManager* manager,
                  const SASM::SimpleString& domain);
 
-  // The image of the domain's dictionary under the given dictionary name:
-  // `*data` is a new array of `length` bytes, freed by the caller with
-  // delete[]. Null and 0 when the body would be longer than its length field
-  // can say or memory is short.
+  // Builds the image of the domain's dictionary under the given dictionary
+  // name: `*data` becomes a new array of `length` bytes, which the caller frees
+  // with delete[]. Null and 0 when the body is longer than its length field can
+  // hold, or when the buffer or the array cannot be allocated.
   void GetNewSettingsWithName(const SASM::SimpleString& name,
                               unsigned char** data, unsigned long& length);
 
