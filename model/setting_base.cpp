@@ -1,6 +1,5 @@
 #include "model/setting_base.h"
 
-#include <new>
 #include <utility>
 
 #include "platform/linux_file_manager.h"
@@ -9,23 +8,13 @@ using SASM::SDIVector;
 using SASM::SettingDataItem;
 using SASM::SimpleString;
 
-namespace {
-
-// In memory that cannot be short, and never destroyed.
-SASM::SettingsManager* MakeManager() {
-  alignas(LinuxFileManager) static char files[sizeof(LinuxFileManager)];
-  alignas(
-      SASM::SettingsManager) static char manager[sizeof(SASM::SettingsManager)];
-  return new (manager) SASM::SettingsManager(new (files) LinuxFileManager);
-}
-
-}  // namespace
-
 SASM::SettingsManager* SettingBase::mSettingsManager = nullptr;
 
 SettingBase::SettingBase(SimpleString key, SimpleString domain)
     : key_(std::move(key)), domain_(std::move(domain)) {
-  if (!mSettingsManager) mSettingsManager = MakeManager();
+  if (!mSettingsManager) {
+    mSettingsManager = new SASM::SettingsManager(new LinuxFileManager);
+  }
 }
 
 // The setters report no failure: a control shows what the manager then holds.
