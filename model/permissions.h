@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <iterator>
 
-#include "settings/hash_map.h"
+#include "settings/settings_dictionary.h"
 #include "store/setting_keys.h"
 
 // The numbers are those of the permission choices in lists and combo boxes.

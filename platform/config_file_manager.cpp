@@ -7,20 +7,21 @@
 #include <cerrno>
 #include <cstring>
 #include <memory>
-#include <new>
+#include <string>
 #include <utility>
+
+#include "settings/map_keys.h"
 
 namespace SASM {
 namespace {
 
-constexpr std::size_t kFirstLineCapacity = 1024;
 constexpr char kUtf8Mark[] = {'\xEF', '\xBB', '\xBF'};
 constexpr char kUtf16Marks[][2] = {{'\xFE', '\xFF'}, {'\xFF', '\xFE'}};
 constexpr std::size_t kSmallestFile = 4;
 
-// What fopen(3) gives a new file, less the process's mask.
+// The mode that fopen(3) gives a new file, before the umask.
 constexpr mode_t kNewFileMode = 0666;
-// What fopen(3) lacks: the opening of a pipe or a device waits for nobody.
+// Opening a pipe or device must not block, for which fopen(3) has no mode.
 constexpr int kOpenWithoutWaiting = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 struct CloseFile {
@@ -28,7 +29,7 @@ struct CloseFile {
 };
 using File = std::unique_ptr<FILE, CloseFile>;
 
-// Takes the descriptor over, and closes it when there can be no stream.
+// Takes over the descriptor. Closes it when it cannot become a stream.
 File StreamOf(int descriptor, const char* mode) {
   if (descriptor < 0) return nullptr;
   File file(fdopen(descriptor, mode));
@@ -46,14 +47,14 @@ File OpenForReading(const SimpleString& path) {
   return is_regular ? std::move(file) : nullptr;
 }
 
-// Empties the file last, so that no failure to open it costs its contents.
+// Empties the file last: a failure to open it must not lose its contents.
 File OpenForWriting(const SimpleString& path) {
   if (path.IsEmpty()) return nullptr;
   File file =
       StreamOf(open(path.c_str(), O_WRONLY | O_CREAT | kOpenWithoutWaiting,
                     kNewFileMode),
                "wb");
-  // Pipes and devices have no length to cut: EINVAL.
+  // Pipes and devices have no length to change: EINVAL.
   const bool is_emptied =
       file && (ftruncate(fileno(file.get()), 0) == 0 || errno == EINVAL);
   return is_emptied ? std::move(file) : nullptr;
@@ -66,7 +67,7 @@ bool IsUtf16(const char* head) {
   return false;
 }
 
-// Leaves the file where its text begins. False when none can be read.
+// Moves to the start of the text. False when there is none to read.
 bool GoToText(FILE* file) {
   char head[kSmallestFile];
   if (std::fread(head, 1, sizeof head, file) < sizeof head) return false;
@@ -75,60 +76,17 @@ bool GoToText(FILE* file) {
   return std::fseek(file, is_marked ? sizeof kUtf8Mark : 0, SEEK_SET) == 0;
 }
 
-// The text of one line after the other, in one buffer that doubles.
-class LineBuffer {
- public:
-  void Clear() {
-    size_ = 0;
-    is_cut_ = is_lost_ = false;
-  }
-
-  // A zero byte would end the text when the line is taken apart: what comes
-  // after it is not kept, so that a file of holes costs no memory.
-  void Append(char byte) {
-    if (byte == '\0') is_cut_ = true;
-    if (is_cut_ || is_lost_) return;
-    if (size_ + 1 >= capacity_ && !Grow()) {
-      is_lost_ = true;
-      return;
-    }
-    bytes_[size_++] = byte;
-  }
-
-  // Null when memory was too short to hold the line, and for an empty line.
-  char* Text() {
-    if (is_lost_ || size_ == 0) return nullptr;
-    bytes_[size_] = '\0';
-    return bytes_.get();
-  }
-
- private:
-  bool Grow() {
-    const std::size_t capacity = capacity_ ? capacity_ * 2 : kFirstLineCapacity;
-    std::unique_ptr<char[]> grown(new (std::nothrow) char[capacity]);
-    if (!grown) return false;
-    if (size_) std::memcpy(grown.get(), bytes_.get(), size_);
-    bytes_ = std::move(grown);
-    capacity_ = capacity;
-    return true;
-  }
-
-  std::unique_ptr<char[]> bytes_;
-  std::size_t capacity_ = 0;
-  std::size_t size_ = 0;
-  bool is_cut_ = false;
-  bool is_lost_ = false;
-};
-
 void SkipLineFeed(FILE* file) {
   const int byte = getc_unlocked(file);
   if (byte != '\n') (void)std::ungetc(byte, file);
 }
 
-// Takes one line and its end. False at the end of the file, which may still
-// have given a line.
-bool ReadLine(FILE* file, LineBuffer* line) {
-  line->Clear();
+// Reads one line and its end. Drops what follows a zero byte, so that a sparse
+// file needs no memory. False at the end of the file; the line may then still
+// hold text.
+bool ReadLine(FILE* file, std::string* line) {
+  line->clear();
+  bool is_cut = false;
   for (;;) {
     const int byte = getc_unlocked(file);
     if (byte == EOF) return false;
@@ -137,7 +95,8 @@ bool ReadLine(FILE* file, LineBuffer* line) {
       SkipLineFeed(file);
       return true;
     }
-    line->Append(static_cast<char>(byte));
+    if (byte == '\0') is_cut = true;
+    if (!is_cut) line->push_back(static_cast<char>(byte));
   }
 }
 
@@ -152,16 +111,13 @@ ConfigFileManager::ConfigFileManager(SimpleString const& path) : mPath(path) {
 
 const SimpleString* ConfigFileManager::ValueForKey(
     SimpleString const& key) const {
-  // For when memory was too short for the dictionary itself.
-  static const SimpleString kNoValue;
-  // The end of the dictionary is an entry too, and stays empty.
-  const auto entry = mEntries.find(key);
-  return mEntries.IsUsable() ? &entry->value : &kNoValue;
+  // The end of the dictionary is an entry too: its value stays empty.
+  return &mEntries.find(key)->value;
 }
 
 void ConfigFileManager::UpdateSetting(SimpleString const& key,
                                       SimpleString const& value) {
-  Insert(key, value);
+  mEntries.insert(key, value);
 }
 
 bool ConfigFileManager::UpdateSettingsFile() const {
@@ -171,12 +127,7 @@ bool ConfigFileManager::UpdateSettingsFile() const {
 }
 
 StringVector* ConfigFileManager::CreateListOfAllKeys() const {
-  std::unique_ptr<StringVector> keys(new (std::nothrow) StringVector);
-  if (!keys) return nullptr;
-  for (const auto& entry : mEntries) {
-    if (!keys->addElement(&entry.key)) return nullptr;
-  }
-  return keys.release();
+  return NewListOfKeys(mEntries);
 }
 
 char* ConfigFileManager::StripString(char* text) {
@@ -195,24 +146,19 @@ void ConfigFileManager::ProcessLine(char* line) {
   *separator = '\0';
   const char* key = StripString(line);
   const char* value = StripString(separator + 1);
-  if (key && value) Insert(key, value);
-}
-
-void ConfigFileManager::Insert(SimpleString key, SimpleString value) {
-  if (value.HasText()) mEntries.insert(std::move(key), std::move(value));
+  if (key && value) mEntries.insert(key, value);
 }
 
 void ConfigFileManager::ProcessFile(FILE* file) {
-  LineBuffer line;
+  std::string line;
   for (bool has_more = true; has_more;) {
     has_more = ReadLine(file, &line);
-    if (char* text = line.Text()) ProcessLine(text);
+    ProcessLine(line.data());
   }
 }
 
 void ConfigFileManager::ProcessSettingsForWrite(FILE* file) const {
-  // Not one fprintf, which gives up on a text of 2 GiB. The caller takes no
-  // notice of errors.
+  // fprintf would fail for a text of 2 GiB. Errors are not reported.
   for (const auto& entry : mEntries) {
     (void)std::fputs(entry.key.c_str(), file);
     (void)std::fputc('=', file);

@@ -4,9 +4,7 @@
 
 namespace SMImplementation {
 
-PointerVector::PointerVector()
-    : elements(new (std::nothrow) void*[kInitialCapacity]),
-      capacity(elements ? kInitialCapacity : 0) {}
+PointerVector::PointerVector() : elements(new void*[kInitialCapacity]) {}
 
 PointerVector::~PointerVector() { delete[] elements; }
 
@@ -15,7 +13,7 @@ bool PointerVector::addElement(const void* element) {
 }
 
 bool PointerVector::adoptElement(void* element) {
-  if (!element || (count == capacity && !Grow())) {
+  if (count == capacity && !Grow()) {
     deleteElement(element);
     return false;
   }
@@ -24,15 +22,12 @@ bool PointerVector::adoptElement(void* element) {
 }
 
 bool PointerVector::Grow() {
-  const unsigned int grown_capacity =
-      capacity ? capacity * 2 : kInitialCapacity;
-  if (grown_capacity <= capacity) return false;
-  void** grown = new (std::nothrow) void*[grown_capacity];
+  void** grown = new (std::nothrow) void*[capacity * 2];
   if (!grown) return false;
   std::copy_n(elements, count, grown);
   delete[] elements;
   elements = grown;
-  capacity = grown_capacity;
+  capacity *= 2;
   return true;
 }
 

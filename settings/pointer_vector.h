@@ -5,12 +5,12 @@
 
 namespace SMImplementation {
 
-// An array of pointers to elements that it owns. A subclass says what an
-// element is by two operations: how to copy one in and how to destroy one.
+// An array of pointers to elements that it owns. A subclass fixes the type of
+// the elements by two operations: how to copy one in and how to destroy one.
 //
-// Starts with room for kInitialCapacity elements and doubles when full; only
-// the pointers move, never the elements. Callers walk `elements` from 0 to
-// `count` - 1 and change neither.
+// Starts with room for kInitialCapacity elements and doubles when full; the
+// pointers move, the elements stay where they are. Callers walk `elements`
+// from 0 to `count` - 1 and change neither.
 class PointerVector {
  public:
   static constexpr unsigned int kInitialCapacity = 10;
@@ -23,21 +23,21 @@ class PointerVector {
 
   // Destroys one element; null is ignored.
   virtual void deleteElement(void* element) = 0;
-  // A new element made from the given one; null when memory is short.
+  // A new element made from the given one.
   virtual void* copyElement(const void* element) = 0;
 
-  // Appends copyElement(element); the caller keeps `element`. False when
-  // memory is short: the vector is then as before.
+  // Appends copyElement(element); the caller keeps `element`. False when the
+  // array cannot grow: the vector is then as before.
   bool addElement(const void* element);
 
   // Appends `element` itself, which the vector owns from here on. False when
-  // memory is short, also for null: the element is then destroyed.
+  // the array cannot grow: the element is then destroyed.
   bool adoptElement(void* element);
 
   // Destroys the element and closes the gap. An index out of range is ignored.
   void removeElementAtIndex(unsigned int index);
 
-  // Destroys the elements that `is_unwanted`, given a void*, is true of, and
+  // Destroys the elements for which `is_unwanted`, given a void*, is true, and
   // closes the gaps. Asks from the last element to the first.
   template <typename Predicate>
   void removeElementsIf(Predicate is_unwanted) {
@@ -50,13 +50,13 @@ class PointerVector {
     count = static_cast<unsigned int>(end - elements);
   }
 
-  // Destroys every element. Each subclass calls it first in its destructor,
-  // where its own deleteElement can still be reached.
+  // Destroys every element. Each subclass calls it first in its destructor:
+  // the base destructor can no longer reach the subclass's deleteElement.
   void subclassDestructorDeleteElements();
 
   void** elements;
   unsigned int count = 0;
-  unsigned int capacity;
+  unsigned int capacity = kInitialCapacity;
 
  private:
   bool Grow();

@@ -1,7 +1,6 @@
 #include "settings/setting_data_item.h"
 
 #include <cassert>
-#include <new>
 #include <utility>
 
 namespace SASM {
@@ -9,13 +8,11 @@ namespace SASM {
 SettingDataItem::SettingDataItem(const SimpleString& name,
                                  _SettingsDataType type, const void* data)
     : name(name), type(type), value{0} {
-  SetData(type, data);
+  CopyValue(type, data);
 }
 
 SettingDataItem::SettingDataItem(const SettingDataItem& other)
-    : name(other.name), type(other.type), value{0} {
-  SetData(type, other.Data());
-}
+    : SettingDataItem(other.name, other.type, other.Data()) {}
 
 SettingDataItem::SettingDataItem(SimpleString&& name, double number)
     : name(std::move(name)), type(kSettingsDataTypeDouble), value{number} {}
@@ -63,7 +60,10 @@ const void* SettingDataItem::Data() const {
 void SettingDataItem::SetData(_SettingsDataType data_type, const void* data) {
   assert(data_type == type);
   ReleaseValue();
-  value.number = 0;
+  CopyValue(data_type, data);
+}
+
+void SettingDataItem::CopyValue(_SettingsDataType data_type, const void* data) {
   switch (data_type) {
     case kSettingsDataTypeDouble:
       value.number = *static_cast<const double*>(data);
@@ -72,27 +72,12 @@ void SettingDataItem::SetData(_SettingsDataType data_type, const void* data) {
       value.boolean = *static_cast<const bool*>(data);
       return;
     case kSettingsDataTypeString:
-      value.string =
-          data ? new (std::nothrow)
-                     SimpleString(*static_cast<const SimpleString*>(data))
-               : nullptr;
+      value.string = new SimpleString(*static_cast<const SimpleString*>(data));
       return;
     case kSettingsDataTypeArray:
-      value.array =
-          data ? static_cast<const SDIVector*>(data)->NewCopy() : nullptr;
+      value.array = static_cast<const SDIVector*>(data)->NewCopy();
       return;
   }
-}
-
-bool SettingDataItem::IsWhole() const {
-  if (!name.HasText()) return false;
-  if (type == kSettingsDataTypeString) {
-    return value.string && value.string->HasText();
-  }
-  if (type == kSettingsDataTypeArray) {
-    return value.array && value.array->IsComplete();
-  }
-  return true;
 }
 
 SDIVector::~SDIVector() { subclassDestructorDeleteElements(); }
@@ -102,36 +87,20 @@ void SDIVector::deleteElement(void* element) {
 }
 
 void* SDIVector::copyElement(const void* element) {
-  auto* copy = new (std::nothrow)
-      SettingDataItem(*static_cast<const SettingDataItem*>(element));
-  if (copy && copy->IsWhole()) return copy;
-  delete copy;
-  return nullptr;
-}
-
-SettingDataItem* SDIVector::NewMoved(SettingDataItem&& item) {
-  return item.IsWhole() ? new (std::nothrow) SettingDataItem(std::move(item))
-                        : nullptr;
+  return new SettingDataItem(*static_cast<const SettingDataItem*>(element));
 }
 
 SDIVector* SDIVector::NewCopy() const {
-  auto* copy = new (std::nothrow) SDIVector;
-  if (!copy) return nullptr;
-  copy->complete_ = complete_;
-  for (unsigned int i = 0; i < count; ++i) {
-    if (!copy->addElement(elements[i])) copy->complete_ = false;
-  }
+  auto* copy = new SDIVector;
+  for (unsigned int i = 0; i < count; ++i) copy->addElement(elements[i]);
   return copy;
 }
 
-bool SDIVector::ReplaceElementAtIndex(unsigned int index,
+void SDIVector::ReplaceElementAtIndex(unsigned int index,
                                       const SettingDataItem& item) {
-  if (index >= count) return false;
-  void* copy = copyElement(&item);
-  if (!copy) return false;
+  void* copy = copyElement(&item);  // `item` may be the element itself
   deleteElement(elements[index]);
   elements[index] = copy;
-  return true;
 }
 
 double NumberOr(const SettingDataItem* item, double fallback) {

@@ -10,7 +10,7 @@ namespace SASM {
 
 class SDIVector;
 
-// What a value is. The numbers are the type bytes of the settings file.
+// The type of a value. The numbers are the type bytes of the settings file.
 enum _SettingsDataType : int {  // NOLINT(bugprone-reserved-identifier)
   kSettingsDataTypeDouble = 0,
   kSettingsDataTypeBool = 1,
@@ -20,19 +20,16 @@ enum _SettingsDataType : int {  // NOLINT(bugprone-reserved-identifier)
 
 // A named, typed value. In a dictionary the name equals the key, in an array
 // it is the element's name. Owns everything it points to; every copy is deep.
-// An item of any other type code carries no value.
-//
-// When memory is short a copy may come out without its name, string or some
-// of its elements: IsWhole() tells.
+// An item of an unknown type code carries no value.
 class SettingDataItem {
  public:
   // An empty name and the number 0.
   SettingDataItem() : type(kSettingsDataTypeDouble), value{0} {}
-  // `data` points to what SetData reads for `type`; it is copied.
+  // Copies the value at `data`: see SetData.
   SettingDataItem(const SimpleString& name, _SettingsDataType type,
                   const void* data);
   SettingDataItem(const SettingDataItem& other);
-  // Leaves `other` the number 0 without a name.
+  // Leaves `other` an empty name and the number 0.
   SettingDataItem(SettingDataItem&& other) noexcept
       : name(std::move(other.name)),
         type(std::exchange(other.type, kSettingsDataTypeDouble)),
@@ -43,7 +40,7 @@ class SettingDataItem {
 
   SettingDataItem(SimpleString&& name, double number);
   SettingDataItem(SimpleString&& name, bool boolean);
-  // Takes over `string` or `array`, which may be null when memory was short.
+  // Take over `string` or `array`, which is not null.
   SettingDataItem(SimpleString&& name, SimpleString* string);
   SettingDataItem(SimpleString&& name, SDIVector* array);
 
@@ -56,16 +53,16 @@ class SettingDataItem {
   }
 
   // Replaces the value by a copy of the one at `data`: a double, a bool, a
-  // SimpleString or an SDIVector as `type` says; for any other type code
-  // `data` is not read. `type` is the item's own, which does not change.
+  // SimpleString or an SDIVector, according to `type`. For an unknown type
+  // code `data` is not read. `type` is the item's own and does not change.
   void SetData(_SettingsDataType type, const void* data);
 
-  // True when the item and all it owns hold what they were made from.
-  [[nodiscard]] bool IsWhole() const;
+  // To go with the last caller: always true.
+  [[nodiscard]] bool IsWhole() const { return true; }
 
   SimpleString name;
   _SettingsDataType type;
-  // The member that `type` names is in use.
+  // `type` says which member is in use.
   union {
     double number;
     bool boolean;
@@ -78,6 +75,8 @@ class SettingDataItem {
     if (type > kSettingsDataTypeBool) DeleteOwned();
   }
   void DeleteOwned();
+  void CopyValue(_SettingsDataType data_type, const void* data);
+  // What CopyValue reads for this type.
   [[nodiscard]] const void* Data() const;
 };
 
@@ -93,30 +92,20 @@ class SDIVector : public SMImplementation::PointerVector {
     return static_cast<SettingDataItem*>(elements[index]);
   }
 
-  // A new item holding what `item` held, for adoptElement; null when memory
-  // is short.
-  [[nodiscard]] static SettingDataItem* NewMoved(SettingDataItem&& item);
+  // Puts a copy of `item` in the place of the element at `index`, which is
+  // below count.
+  void ReplaceElementAtIndex(unsigned int index, const SettingDataItem& item);
 
-  // Puts a copy of `item` in the place of the element at `index`. False when
-  // memory is short or the index out of range: the vector is then as before.
-  bool ReplaceElementAtIndex(unsigned int index, const SettingDataItem& item);
-
-  // A deep copy, owned by the caller. An element that finds no memory is left
-  // out (see IsComplete); null when there is none for the vector itself.
+  // A deep copy, owned by the caller. An element for which the copy cannot
+  // grow is left out.
   [[nodiscard]] SDIVector* NewCopy() const;
-
-  // False for a copy that lacks an element of its original.
-  [[nodiscard]] bool IsComplete() const { return complete_; }
-
- private:
-  bool complete_ = true;
 };
 
-// Typed reads of a stored item. A missing item (null) and one of another type
-// read as the fallback; no union member but the item's own is ever touched.
+// Typed reads of a stored item. A missing item (null) and an item of another
+// type read as the fallback.
 [[nodiscard]] double NumberOr(const SettingDataItem* item, double fallback);
 [[nodiscard]] bool BoolOr(const SettingDataItem* item, bool fallback);
-// Borrowed from the item.
+// Borrowed from the item. The fallback is null.
 [[nodiscard]] SDIVector* ArrayOrNull(const SettingDataItem* item);
 
 }  // namespace SASM

@@ -42,8 +42,8 @@ bool SettingsAggregator::MakeRoom(unsigned long count) {
   return true;
 }
 
-// A buffer that grows in place takes no pages anew; for a large image they cost
-// more than its bytes.
+// realloc grows a large buffer in place; new pages would cost more than copying
+// the bytes.
 bool SettingsAggregator::SetCapacity(std::uint64_t capacity) {
   void* resized = std::realloc(buffer_, capacity);
   if (!resized) return false;
@@ -66,11 +66,9 @@ void SettingsAggregator::WriteDouble(double value) {
 
 void SettingsAggregator::WriteSimpleStringAsPString(
     const SASM::SimpleString& text) {
-  if (!text.HasText()) failed_ = true;
-  const char* bytes = text.HasText() ? text.c_str() : "";
-  const std::size_t size = strnlen(bytes, kLongestText);
+  const std::size_t size = strnlen(text.c_str(), kLongestText);
   WriteU16(static_cast<unsigned short>(size));
-  AppendData(bytes, size);
+  AppendData(text.c_str(), size);
 }
 
 unsigned long SettingsAggregator::GetData(unsigned long count,

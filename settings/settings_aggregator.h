@@ -7,8 +7,8 @@
 
 namespace SMImplementation {
 
-// A growable buffer with big-endian write operations. An append for which no
-// memory can be had is lost; Failed() then says so.
+// A growable buffer with big-endian write operations. An append for which the
+// buffer cannot grow is lost; Failed() is then true.
 class SettingsAggregator {
  public:
   // `initial_size` in bytes; the capacity is at least 1024.
@@ -17,7 +17,7 @@ class SettingsAggregator {
   SettingsAggregator(const SettingsAggregator&) = delete;
   SettingsAggregator& operator=(const SettingsAggregator&) = delete;
 
-  // Doubles the capacity as long as the bytes would fill the buffer.
+  // Doubles the capacity until the bytes leave at least one spare byte.
   void AppendData(const void* data, unsigned long count);
 
   void WriteU8(unsigned char value) {
@@ -26,15 +26,14 @@ class SettingsAggregator {
   void WriteU16(unsigned short value);
   void WriteU32(unsigned int value);
   void WriteDouble(double value);
-  // A text longer than 65535 bytes is cut there. A string without a text is
-  // lost like an append without memory.
+  // A text longer than 65535 bytes is cut there.
   void WriteSimpleStringAsPString(const SASM::SimpleString& text);
   void WriteSettingsDataType(SASM::_SettingsDataType type) {
     WriteU8(static_cast<unsigned char>(type));
   }
 
-  // Copies the first `count` bytes of the buffer, but no more than its
-  // capacity, to `dest`; returns the number copied.
+  // Copies the first `count` bytes of the buffer, at most its capacity, to
+  // `dest`. Returns the number copied.
   unsigned long GetData(unsigned long count, unsigned char* dest) const;
 
   // Bytes appended so far.
@@ -42,7 +41,7 @@ class SettingsAggregator {
   [[nodiscard]] bool Failed() const { return failed_; }
 
  private:
-  // Room for `count` more bytes, taken as appended; null when there is none.
+  // Appends `count` bytes for the caller to fill; null when they are lost.
   unsigned char* Extend(unsigned long count) {
     if (count >= capacity_ - size_ && !MakeRoom(count)) return nullptr;
     unsigned char* room = buffer_ + size_;

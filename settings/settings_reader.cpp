@@ -3,7 +3,6 @@
 #include <bit>
 #include <cstdio>
 #include <memory>
-#include <new>
 #include <utility>
 
 #include "settings/big_endian.h"
@@ -21,17 +20,14 @@ SettingsReader::SettingsReader(const unsigned char* data, unsigned long size)
 
 SettingsDictionary* SettingsReader::GetNewSettingsData(SimpleString** name) {
   if (!ReadHeaders(name)) return nullptr;
-  std::unique_ptr<SettingsDictionary> dictionary(new (std::nothrow)
-                                                     SettingsDictionary);
-  if (!HadMemory(dictionary && dictionary->IsUsable())) return nullptr;
+  auto dictionary = std::make_unique<SettingsDictionary>();
   while (!AtEnd()) {
     SettingDataItem item;
     const Entry entry = ReadEntry(&item);
     if (entry == Entry::kRejected) return nullptr;
     if (entry == Entry::kDropped) continue;
     SimpleString key = item.name;
-    const auto stored = dictionary->insert(std::move(key), std::move(item));
-    if (!HadMemory(stored != dictionary->end())) return nullptr;
+    dictionary->insert(std::move(key), std::move(item));
   }
   return dictionary.release();
 }
@@ -45,7 +41,7 @@ bool SettingsReader::ReadHeaders(SimpleString** name) {
   if (length > size_ - position_) {
     return Reject("The declared length is beyond the end of the file.");
   }
-  if (ReadU32() != kMagic) return Reject("The magic number is another.");
+  if (ReadU32() != kMagic) return Reject("Wrong magic number.");
   const unsigned short version = ReadU16();
   if (version < kOldestVersion || version > kNewestVersion) {
     return Reject("The version is not 2, 3 or 4.");
@@ -82,17 +78,12 @@ SettingsReader::Entry SettingsReader::ReadEntry(SettingDataItem* item) {
     Reject("The entry is not closed by a zero byte.");
     return Entry::kRejected;
   }
-  if (type > SASM::kSettingsDataTypeArray) return Entry::kDropped;
-  return HadMemory(item->IsWhole()) ? Entry::kRead : Entry::kRejected;
+  return type > SASM::kSettingsDataTypeArray ? Entry::kDropped : Entry::kRead;
 }
 
 SDIVector* SettingsReader::ReadArray() {
-  std::unique_ptr<SDIVector> array(new (std::nothrow) SDIVector);
-  if (!HadMemory(array != nullptr)) return nullptr;
-  for (;;) {
-    SimpleString name = ReadText();
-    if (!HadMemory(name.HasText())) return nullptr;
-    if (name.IsEmpty()) break;
+  auto array = std::make_unique<SDIVector>();
+  for (SimpleString name = ReadText(); !name.IsEmpty(); name = ReadText()) {
     const unsigned char type = ReadU8();
     if (type == SASM::kSettingsDataTypeArray) {
       Report(
@@ -103,11 +94,8 @@ SDIVector* SettingsReader::ReadArray() {
           "Unexpected data-type encountered when parsing array; "
           "IGNORING VALUE.");
     } else {
-      SettingDataItem element = ReadScalar(type, std::move(name));
-      if (!HadMemory(
-              array->adoptElement(SDIVector::NewMoved(std::move(element))))) {
-        return nullptr;
-      }
+      array->adoptElement(
+          new SettingDataItem(ReadScalar(type, std::move(name))));
     }
   }
   if (ReadU8() == kEndOfArray) return array.release();
@@ -140,11 +128,6 @@ const unsigned char* SettingsReader::Take(std::uint64_t count,
 bool SettingsReader::Reject(const char* what) {
   Remember(what);
   return false;
-}
-
-bool SettingsReader::HadMemory(bool had) {
-  if (!had) short_of_memory_ = true;
-  return had;
 }
 
 void SettingsReader::Remember(const char* what) {
@@ -192,10 +175,7 @@ SimpleString SettingsReader::ReadText() {
 }
 
 SimpleString* SettingsReader::ReadAndCopyPStringAsSimpleString() {
-  // First the text: without memory for the object the argument of its
-  // constructor would not be evaluated, and the text not be taken.
-  SimpleString text = ReadText();
-  return new (std::nothrow) SimpleString(std::move(text));
+  return new SimpleString(ReadText());
 }
 
 }  // namespace SMImplementation

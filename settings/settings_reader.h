@@ -4,26 +4,26 @@
 #include <cstdint>
 #include <utility>
 
-#include "settings/hash_map.h"
+#include "settings/settings_dictionary.h"
 
 namespace SMImplementation {
 
-// Parses one complete settings image held in memory. The image is borrowed
-// and must stay unchanged while the reader is used. Its bytes are hostile:
-// any bytes at all give a dictionary or null, and lines on standard error
-// that begin "SMSettingsReader: ".
+// Parses one complete settings image in memory. The image is borrowed and must
+// stay unchanged while the reader is used. Its bytes are hostile: any bytes
+// give a dictionary or null, and at most lines on standard error that begin
+// "SMSettingsReader: ".
 class SettingsReader {
  public:
   SettingsReader(const unsigned char* data, unsigned long size);
 
-  // The lines on standard error, for callers that tell of the faults
+  // Prints nothing from here on, for callers that report the faults
   // themselves.
   void KeepQuiet() { is_quiet_ = true; }
 
-  // Parses the image from its start. A new dictionary, owned by the caller;
-  // null when the image is rejected or memory is short. `*name` becomes a new
-  // string with the dictionary name, owned by the caller, as soon as it has
-  // been read, whatever comes after; otherwise it stays as it was.
+  // Parses the image from its start. Returns a new dictionary, owned by the
+  // caller, or null when the image is rejected. `*name` becomes a new string
+  // with the dictionary name, owned by the caller, as soon as the name has been
+  // read, whatever follows; if it is not read, `*name` is unchanged.
   [[nodiscard]] SASM::SettingsDictionary* GetNewSettingsData(
       SASM::SimpleString** name);
 
@@ -38,50 +38,47 @@ class SettingsReader {
   double ReadDouble();
 
   // Takes a U16 count and that many bytes; the text is cut at its first zero
-  // byte. When the bytes are not there prints its message and gives the empty
-  // text, having taken the count. The caller owns the string; null when
-  // memory is short.
+  // byte. If the image ends before, prints a message and returns the empty
+  // text, having taken the count only. The caller owns the string.
   [[nodiscard]] SASM::SimpleString* ReadAndCopyPStringAsSimpleString();
 
-  // What an entry turned out to be: one to store, one of an unknown type that
-  // is passed over, or a reason to reject the whole image.
+  // The result of reading an entry: one to store, one of an unknown type to
+  // skip, or a reason to reject the whole image.
   enum class Entry { kRead, kDropped, kRejected };
 
-  // The steps of GetNewSettingsData, for callers that walk an image entry by
-  // entry. ReadHeaders starts at the image's first byte and stops in front of
+  // The steps of GetNewSettingsData, for callers that read an image entry by
+  // entry. ReadHeaders starts at the first byte of the image and stops before
   // the first entry; false when it rejects the image. ReadEntry may be called
   // until AtEnd() or a rejection, and fills `item` unless it is kRejected; a
-  // dropped one has a name, its unknown type and no value.
+  // dropped item has a name, its unknown type and no value.
   [[nodiscard]] bool ReadHeaders(SASM::SimpleString** name);
   [[nodiscard]] Entry ReadEntry(SASM::SettingDataItem* item);
   [[nodiscard]] bool AtEnd() const { return position_ == size_; }
   // Bytes taken so far.
   [[nodiscard]] std::uint64_t Position() const { return position_; }
 
-  // True when it was memory that the reader was short of: a null dictionary
-  // and a rejected entry then say nothing about the image.
-  [[nodiscard]] bool WasShortOfMemory() const { return short_of_memory_; }
+  // To go with the last caller.
+  [[nodiscard]] bool WasShortOfMemory() const { return false; }
 
-  // Something found wrong: a constant text, null when nothing was, and the
-  // offset in bytes at which it was found.
+  // A fault in the image: a constant text, null for none, and the offset in
+  // bytes at which it was found.
   struct Fault {
     const char* what = nullptr;
     std::uint64_t offset = 0;
   };
-  // The first since the last call of this: what comes after is often its
-  // consequence.
+  // The first fault since the last call; later ones are often its consequence.
   [[nodiscard]] Fault TakeFault() { return std::exchange(fault_, {}); }
 
  private:
-  // `count` bytes, or null and a line that names the operation.
+  // `count` bytes; null after reporting `message` when fewer are left.
   const unsigned char* Take(std::uint64_t count, const char* message);
+  // False, having remembered the fault without printing it.
   bool Reject(const char* what);
+  // Remembers the fault and prints it.
   void Report(const char* message);
-  // False, having noted that memory is short, unless `had` is true.
-  [[nodiscard]] bool HadMemory(bool had);
   void Remember(const char* what);
   SASM::SimpleString ReadText();
-  // Null when the array is not closed or memory is short.
+  // Null when the array is not closed by its marker.
   [[nodiscard]] SASM::SDIVector* ReadArray();
   // A value of type 0, 1 or 2.
   [[nodiscard]] SASM::SettingDataItem ReadScalar(unsigned char type,
@@ -91,7 +88,6 @@ class SettingsReader {
   std::uint64_t size_;
   std::uint64_t position_ = 0;
   Fault fault_;
-  bool short_of_memory_ = false;
   bool is_quiet_ = false;
 };
 

@@ -6,11 +6,9 @@
 namespace SASM {
 namespace {
 
-// A copy of `size` bytes, or for null room for them, and a zero behind; null
-// when memory is short.
+// A copy of `size` bytes and a zero byte; for null only the room for them.
 char* NewText(const void* bytes, std::size_t size) {
-  char* text = new (std::nothrow) char[size + 1];
-  if (!text) return nullptr;
+  char* text = new char[size + 1];
   if (bytes) std::memcpy(text, bytes, size);
   text[size] = '\0';
   return text;
@@ -44,7 +42,7 @@ SimpleString SimpleString::Joined(std::initializer_list<const char*> parts) {
   char* joined = NewText(nullptr, size);
   char* end = joined;
   for (const char* part : parts) {
-    if (joined) end = stpcpy(end, part);
+    end = stpcpy(end, part);
   }
   return SimpleString(Adopted{joined});
 }

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <new>
 
 namespace SASM {
 
@@ -13,11 +12,7 @@ void StringVector::deleteElement(void* element) {
 }
 
 void* StringVector::copyElement(const void* element) {
-  auto* copy = new (std::nothrow)
-      SimpleString(*static_cast<const SimpleString*>(element));
-  if (copy && copy->HasText()) return copy;
-  delete copy;
-  return nullptr;
+  return new SimpleString(*static_cast<const SimpleString*>(element));
 }
 
 const char* StringVector::TextAt(unsigned int index) const {
@@ -34,10 +29,10 @@ std::int32_t LeadingNumber(const char* text) {
   return static_cast<std::int32_t>(std::strtol(text, nullptr, 10));
 }
 
-// Where a differing byte stands in the order. Folds ASCII itself: tolower
-// would depend on the locale and is undefined for negative values.
+// The place of a differing byte in the order. Folds ASCII itself: tolower
+// depends on the locale and is undefined for negative values.
 int Rank(char byte) {
-  // Bytes from 128 up rank below all others.
+  // Bytes of 0x80 and above rank below all others.
   // NOLINTNEXTLINE(bugprone-signed-char-misuse)
   const int value = static_cast<signed char>(byte);
   if (value >= 'A' && value <= 'Z') return value - 'A' + 'a';
@@ -67,8 +62,7 @@ int CompareNaturally(const char* a, const char* b) {
   return *a == *b ? 0 : Rank(*a) - Rank(*b);
 }
 
-// qsort and not std::sort: the latter may leave its range when equality is
-// not transitive.
+// qsort, since std::sort may leave its range when equality is not transitive.
 void SortableStringVector::Sort() {
   std::qsort(elements, count, sizeof *elements, CompareElements);
 }

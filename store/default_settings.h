@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "settings/hash_map.h"
+#include "settings/settings_dictionary.h"
 
 namespace SASM {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <memory>
 
-#include "settings/hash_map.h"
+#include "settings/settings_dictionary.h"
 
 namespace SASM {
 

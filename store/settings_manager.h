@@ -5,7 +5,7 @@
 #include <span>
 
 #include "platform/file_manager.h"
-#include "settings/hash_map.h"
+#include "settings/settings_dictionary.h"
 #include "settings/string_vector.h"
 #include "store/store_layout.h"
 

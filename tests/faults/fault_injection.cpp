@@ -10,16 +10,14 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdlib>
-#include <new>
 #include <type_traits>
 
-#ifndef __SANITIZE_ADDRESS__
+// The C library's own; dlsym cannot find them, since it allocates itself.
 extern "C" {
 void* __libc_malloc(std::size_t);
 void* __libc_calloc(std::size_t, std::size_t);
 void* __libc_realloc(void*, std::size_t);
 }
-#endif
 
 namespace {
 
@@ -30,9 +28,8 @@ struct State {
   bool met = false;
 };
 State state;
-long live_allocations = 0;
 
-// What a call is to do.
+// What a call does.
 enum class Verdict { kPass, kFail, kHalf, kHalfThenEnd };
 
 Verdict MeetFault() {
@@ -66,7 +63,7 @@ Verdict Judge(unsigned int call) {
   return state.calls_left-- == 0 ? MeetFault() : Verdict::kPass;
 }
 
-// True when the call is to fail; errno is then set.
+// True when the call must fail; errno is then set.
 bool Fails(unsigned int call) {
   if (Judge(call) == Verdict::kPass) return false;
   errno = state.fault.error;
@@ -93,28 +90,6 @@ Result Pass(unsigned int call, Result (*)(Arguments...), const char* name,
   return Next<Result(Arguments...)>(name)(arguments...);
 }
 
-void* Allocate(std::size_t size) {
-  if (Fails(faults::kAllocate)) return nullptr;
-#ifdef __SANITIZE_ADDRESS__
-  void* memory = std::malloc(size);
-#else
-  void* memory = __libc_malloc(size);
-#endif
-  if (memory) ++live_allocations;
-  return memory;
-}
-
-void* AllocateOrEnd(std::size_t size) {
-  void* memory = Allocate(size);
-  if (!memory) std::abort();  // nobody handles bad_alloc
-  return memory;
-}
-
-void Free(void* memory) {
-  if (memory) --live_allocations;
-  std::free(memory);
-}
-
 }  // namespace
 
 namespace faults {
@@ -126,27 +101,13 @@ bool Disarm() {
   return state.met;
 }
 
-long LiveAllocations() { return live_allocations; }
-
 }  // namespace faults
-
-void* operator new(std::size_t size) { return AllocateOrEnd(size); }
-void* operator new[](std::size_t size) { return AllocateOrEnd(size); }
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-  return Allocate(size);
-}
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-  return Allocate(size);
-}
-void operator delete(void* memory) noexcept { Free(memory); }
-void operator delete[](void* memory) noexcept { Free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { Free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { Free(memory); }
 
 extern "C" {
 
 #ifndef __SANITIZE_ADDRESS__
-// What the C library allocates for itself. A sanitizer has its own.
+// For operator new and for what the C library allocates itself. A sanitizer has
+// functions of its own.
 #pragma GCC visibility push(default)
 void* malloc(std::size_t size) {
   return Fails(faults::kAllocate) ? nullptr : __libc_malloc(size);
@@ -178,8 +139,7 @@ int openat(int directory, const char* path, int flags, ...) {
   return Fails(OpenCalls(flags)) ? -1 : next(directory, path, flags, mode);
 }
 
-// What the two above are with _FORTIFY_SOURCE and flags the compiler does not
-// know.
+// The two above under _FORTIFY_SOURCE, when the flags are not constant.
 int __open_2(const char* path, int flags) { return open(path, flags); }
 int __openat_2(int directory, const char* path, int flags) {
   return openat(directory, path, flags);
@@ -259,7 +219,8 @@ int fstatat(int directory, const char* path, struct stat* info, int flags) {
               flags);
 }
 
-// The home directory of the password database, where HOME gives none.
+// The home directory in the password database: the program's choice when HOME
+// gives none.
 passwd* getpwuid(uid_t) {
   static passwd user = {};
   user.pw_dir = std::getenv("PASSWORD_DATABASE_HOME");

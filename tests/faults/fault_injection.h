@@ -3,9 +3,8 @@
 
 #include <string>
 
-// A program linked with these gets the calls of its own code through them:
-// they stand in for the C library's functions and for operator new. As long
-// as no fault is armed they only pass on, and count.
+// A program linked with this calls its functions instead of the C library's.
+// While no fault is armed they only call the C library.
 namespace faults {
 
 // What can fail. Values are bits, so that a fault can count several together.
@@ -18,10 +17,10 @@ enum Call : unsigned int {
   kUnlink = 1 << 5,
   kRmdir = 1 << 6,
   kOpendir = 1 << 7,
-  kReaddir = 1 << 8,  // readdir and getdents64
-  kStat = 1 << 9,     // stat, fstat, fstatat and access
-  kAllocate = 1 << 10,
-  kCreate = 1 << 11,  // the open calls that create or empty a file
+  kReaddir = 1 << 8,    // readdir and getdents64
+  kStat = 1 << 9,       // stat, fstat, fstatat and access
+  kAllocate = 1 << 10,  // malloc, calloc, realloc, and so operator new
+  kCreate = 1 << 11,    // the open calls that create or empty a file
 
   // The calls that change the disk.
   kChangesDisk = kCreate | kWrite | kMkdir | kUnlink | kRmdir,
@@ -43,14 +42,18 @@ struct Fault {
   int error;  // errno of the call that fails
 };
 
-// The n-th call that the fault counts, from 0, meets it. Forgets what was
-// armed before.
-void Arm(const Fault& fault, int n);
-// Back to normal. True when the fault was met.
-bool Disarm();
+// A sanitizer brings its own allocator.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr bool kAllocationsCanFail = false;
+#else
+inline constexpr bool kAllocationsCanFail = true;
+#endif
 
-// Allocations of operator new that have not been freed.
-[[nodiscard]] long LiveAllocations();
+// The n-th call among those of the fault, from 0, meets it. Replaces the fault
+// that was armed before.
+void Arm(const Fault& fault, int n);
+// Ends the injection. True when the fault was met.
+bool Disarm();
 
 // The status with which kKill ends the process.
 inline constexpr int kKilled = 77;

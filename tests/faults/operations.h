@@ -1,4 +1,4 @@
-// What a user does to the store, for the tests that make it fail.
+// The operations of a user on the store, for the tests that make them fail.
 #pragma once
 
 #include <span>
@@ -7,8 +7,7 @@
 #include "tests/support/temporary_home.h"
 
 struct Outcome {
-  bool result;         // what the operation returned
-  bool memory_failed;  // the fault was an allocation's
+  bool result;  // what the operation returned
   const TemporaryHome::Snapshot& after;
 };
 
@@ -18,13 +17,13 @@ struct Operation {
   const char* name;
   On on;  // kPanel: one that was started before
   bool (*run)(Panel& panel);
-  // Expects what must hold in memory and on disk after a fault.
+  // Expects what must hold in memory and on disk after a failed system call.
   void (*check)(Panel& panel, const Outcome& outcome);
   // Beginnings of the paths that may change.
   std::vector<std::string> may_change;
-  // True when the result tells whether the disk was changed as it was meant.
-  bool tells = true;
-  // True when nothing that is there before is lost by the operation itself.
+  // True when the result says whether the disk was changed as intended.
+  bool reports = true;
+  // False when the operation itself removes settings.
   bool keeps_settings = true;
 };
 

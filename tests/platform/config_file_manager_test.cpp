@@ -4,9 +4,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <limits>
 #include <memory>
-#include <new>
 
 #include "tests/support/temporary_home.h"
 
@@ -16,20 +14,6 @@ using testing::ElementsAre;
 using testing::Pair;
 using testing::UnorderedElementsAreArray;
 using namespace std::string_literals;
-
-namespace {
-
-// Later ones fail.
-int allocations_left = std::numeric_limits<int>::max();
-
-}  // namespace
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-  return allocations_left-- > 0 ? operator new[](size) : nullptr;
-}
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-  return allocations_left-- > 0 ? operator new(size) : nullptr;
-}
 
 namespace {
 
@@ -80,7 +64,7 @@ TEST_F(ConfigFile, IsTakenApartInAllItsForms) {
        {{"\xC2\xA0k\xC3\xA9", "caf\xC3\xA9\xFF"}}},
       {"a=b\0=c\nd\0=e\n\0f=g\nh=i\0"s, {{"a", "b"}, {"h", "i"}}},
       {"\ra=1\r\xFF=2", {{"a", "1"}, {"\xFF", "2"}}},
-      // The first four bytes tell whether it is a text.
+      // The first four bytes decide whether it is a text.
       {"a=b", {}},
       {mark, {}},
       {mark + "a=b", {{"a", "b"}}},
@@ -170,23 +154,6 @@ TEST_F(ConfigFile, ReadsOnlyRegularFilesAndCreatesOne) {
   std::filesystem::create_symlink("config", home_ / "link");
   const ConfigFileManager linked((home_ / "link").c_str());
   EXPECT_THAT(EntriesOf(linked), ElementsAre(Pair("a", "b")));
-}
-
-TEST_F(ConfigFile, LeavesOutWhatMemoryIsTooShortFor) {
-  const Entries right = {
-      {"a", "1"}, {"a", "3"}, {"long", std::string(5000, 'v')}, {"c", "4"}};
-  home_.Write("config", "a=1\nlong=" + right[2].second + "\n");
-  bool has_failed = true;
-  for (int limit = 0; has_failed; ++limit) {
-    SCOPED_TRACE(limit);
-    allocations_left = limit;
-    ConfigFileManager config(path_);
-    config.UpdateSetting("a", "3");
-    config.UpdateSetting("c", "4");
-    has_failed = allocations_left < 0;
-    allocations_left = std::numeric_limits<int>::max();
-    EXPECT_THAT(EntriesOf(config), testing::Each(testing::AnyOfArray(right)));
-  }
 }
 
 }  // namespace

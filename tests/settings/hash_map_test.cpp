@@ -6,6 +6,8 @@
 #include <map>
 #include <random>
 
+#include "settings/simple_string.h"
+
 namespace {
 
 using SASM::SimpleString;
@@ -32,7 +34,7 @@ std::vector<Entry> Walk(const IntMap& map) {
   }
 }
 
-// Up to sizes that are searched by the tree.
+// Up to sizes that are searched by the index.
 TEST(HashMap, AgreesWithAModelOverRandomOperations) {
   const unsigned int seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
@@ -40,7 +42,7 @@ TEST(HashMap, AgreesWithAModelOverRandomOperations) {
   IntMap map;
   Model model;
   for (int step = 0; step < 20000; ++step) {
-    // So many keys that the map is now above the size of a tree, now below.
+    // So many keys that the map is searched now by the index, now by buckets.
     std::string key;
     for (auto n = random() % 5; n > 0; --n) key += "ab\xC3 qr"[random() % 6];
     const auto found = map.find(key.c_str());

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "settings/hash_map.h"
+#include "settings/settings_dictionary.h"
 #include "settings/string_vector.h"
 
 namespace image {
