@@ -1,61 +1,84 @@
-// The sixteen languages.
+// The sixteen languages: one row each.
 #pragma once
 
-#include <array>
+#include <iterator>
+#include <span>
 
+#include "strings/languages/czech.h"
+#include "strings/languages/dutch.h"
+#include "strings/languages/english.h"
+#include "strings/languages/french.h"
+#include "strings/languages/german.h"
+#include "strings/languages/italian.h"
+#include "strings/languages/japanese.h"
+#include "strings/languages/korean.h"
+#include "strings/languages/polish.h"
+#include "strings/languages/portuguese.h"
+#include "strings/languages/russian.h"
+#include "strings/languages/simplified_chinese.h"
+#include "strings/languages/spanish.h"
+#include "strings/languages/swedish.h"
+#include "strings/languages/traditional_chinese.h"
+#include "strings/languages/turkish.h"
 #include "strings/text_row.h"
 
 namespace NCPStrings {
 
+// The languages in the order of their indexes; the first is the default. A row:
+//   name         makes Language::kName, and kNameTexts are its texts
+//   code         the language code of a locale name that chooses it
+//   site suffix  the end of its addresses on the maker's web site
+//   locale       one that speaks it, for tests and pictures
+// The two kinds of Chinese share a code: see kTraditionalChineseLocales.
+// scripts/languages.sh reads these rows, too.
+#define NCP_LANGUAGES(ROW)                    \
+  ROW(English, "en", "en", "en_US")           \
+  ROW(Czech, "cs", "cz", "cs_CZ")             \
+  ROW(German, "de", "de", "de_DE")            \
+  ROW(Spanish, "es", "es", "es_ES")           \
+  ROW(French, "fr", "fr", "fr_FR")            \
+  ROW(Italian, "it", "it", "it_IT")           \
+  ROW(Japanese, "ja", "jp", "ja_JP")          \
+  ROW(Korean, "ko", "kr", "ko_KR")            \
+  ROW(Dutch, "nl", "nl", "nl_NL")             \
+  ROW(Polish, "pl", "pl", "pl_PL")            \
+  ROW(Portuguese, "pt", "br", "pt_BR")        \
+  ROW(Russian, "ru", "ru", "ru_RU")           \
+  ROW(Swedish, "sv", "se", "sv_SE")           \
+  ROW(Turkish, "tr", "tr", "tr_TR")           \
+  ROW(SimplifiedChinese, "zh", "cn", "zh_CN") \
+  ROW(TraditionalChinese, "zh", "tw", "zh_TW")
+
 // The position of a language's block in the text table.
 enum class Language : int {
-  kEnglish,
-  kCzech,
-  kGerman,
-  kSpanish,
-  kFrench,
-  kItalian,
-  kJapanese,
-  kKorean,
-  kDutch,
-  kPolish,
-  kPortuguese,
-  kRussian,
-  kSwedish,
-  kTurkish,
-  kSimplifiedChinese,
-  kTraditionalChinese,
+#define NCP_ENUMERATOR(name, code, site_suffix, locale) k##name,
+  NCP_LANGUAGES(NCP_ENUMERATOR)
+#undef NCP_ENUMERATOR
 };
-
-inline constexpr int kLanguageCount = 16;
 
 struct LanguageTraits {
   Language language;
-  // The language code of a locale name that chooses it. The default language
-  // needs none; the two kinds of Chinese share theirs.
   const char* code;
-  // What the maker's web site calls it at the end of an address.
   const char* site_suffix;
+  const char* locale;
 };
 
-inline constexpr std::array<LanguageTraits, kLanguageCount> kLanguages = {{
-    {Language::kEnglish, "en", "en"},
-    {Language::kCzech, "cs", "cz"},
-    {Language::kGerman, "de", "de"},
-    {Language::kSpanish, "es", "es"},
-    {Language::kFrench, "fr", "fr"},
-    {Language::kItalian, "it", "it"},
-    {Language::kJapanese, "ja", "jp"},
-    {Language::kKorean, "ko", "kr"},
-    {Language::kDutch, "nl", "nl"},
-    {Language::kPolish, "pl", "pl"},
-    {Language::kPortuguese, "pt", "br"},
-    {Language::kRussian, "ru", "ru"},
-    {Language::kSwedish, "sv", "se"},
-    {Language::kTurkish, "tr", "tr"},
-    {Language::kSimplifiedChinese, "zh", "cn"},
-    {Language::kTraditionalChinese, "zh", "tw"},
-}};
+inline constexpr LanguageTraits kLanguages[] = {
+#define NCP_TRAITS(name, code, site_suffix, locale) \
+  {Language::k##name, code, site_suffix, locale},
+    NCP_LANGUAGES(NCP_TRAITS)
+#undef NCP_TRAITS
+};
+
+// Only to be read while compiling: the text table holds the same texts.
+inline constexpr std::span<const TextRow> kLanguageFiles[] = {
+#define NCP_FILE(name, code, site_suffix, locale) k##name##Texts,
+    NCP_LANGUAGES(NCP_FILE)
+#undef NCP_FILE
+};
+#undef NCP_LANGUAGES
+
+inline constexpr std::size_t kLanguageCount = std::size(kLanguages);
 
 // The locales, without their codesets, that write traditional Chinese.
 inline constexpr const char* kTraditionalChineseLocales[] = {"zh_HK", "zh_MO",

@@ -25,5 +25,6 @@ int LanguageOfLocale(const char* locale_name) {
   }
   const auto* traits =
       std::ranges::find(kLanguages, language_code, &LanguageTraits::code);
-  return traits == kLanguages.end() ? 0 : static_cast<int>(traits->language);
+  return traits == std::end(kLanguages) ? 0
+                                        : static_cast<int>(traits->language);
 }

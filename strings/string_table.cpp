@@ -1,61 +1,23 @@
 // Puts the language files and the addresses together, and refuses to compile
-// when one of them is broken.
+// when a file is broken.
 #include "strings/string_table.h"
 
 #include <algorithm>
 #include <array>
 #include <span>
-#include <string_view>
+#include <utility>
 
-#include "strings/languages/czech.h"
-#include "strings/languages/dutch.h"
-#include "strings/languages/english.h"
-#include "strings/languages/french.h"
-#include "strings/languages/german.h"
-#include "strings/languages/italian.h"
-#include "strings/languages/japanese.h"
-#include "strings/languages/korean.h"
-#include "strings/languages/polish.h"
-#include "strings/languages/portuguese.h"
-#include "strings/languages/russian.h"
-#include "strings/languages/simplified_chinese.h"
-#include "strings/languages/spanish.h"
-#include "strings/languages/swedish.h"
-#include "strings/languages/traditional_chinese.h"
-#include "strings/languages/turkish.h"
+#include "strings/languages.h"
 #include "strings/table_checks.h"
 #include "strings/web_addresses.h"
 
 namespace NCPStrings {
 namespace {
 
-// In the order of Language.
-constexpr std::array<std::span<const TextRow>, kLanguageCount> kTexts = {{
-    kEnglishTexts,
-    kCzechTexts,
-    kGermanTexts,
-    kSpanishTexts,
-    kFrenchTexts,
-    kItalianTexts,
-    kJapaneseTexts,
-    kKoreanTexts,
-    kDutchTexts,
-    kPolishTexts,
-    kPortugueseTexts,
-    kRussianTexts,
-    kSwedishTexts,
-    kTurkishTexts,
-    kSimplifiedChineseTexts,
-    kTraditionalChineseTexts,
-}};
-
-// One variable for each language: a compiler limits what a single one costs.
+// One variable for each language: a compiler limits the steps of a single one.
 template <std::size_t index>
-consteval RowFault FirstFaultOf() {
-  return FirstFault(kTexts[0], kTexts[index]);
-}
-template <std::size_t index>
-constexpr RowFault kFault = FirstFaultOf<index>();
+constexpr RowFault kFault = FirstFault(kLanguageFiles[0],
+                                       kLanguageFiles[index]);
 
 template <std::size_t... indexes>
 consteval bool AllAreSound(std::index_sequence<indexes...>) {
@@ -63,8 +25,8 @@ consteval bool AllAreSound(std::index_sequence<indexes...>) {
                      kFault<indexes>.fault>::kIsSound &&
           ...);
 }
-static_assert(AllAreSound(std::make_index_sequence<kLanguageCount>()));
-static_assert(std::size(kEnglishTexts) + kAddressCount == kTextCount);
+constexpr bool kFilesAreSound =
+    AllAreSound(std::make_index_sequence<kLanguageCount>());
 
 using Addresses =
     std::array<std::array<Address, kAddressCount>, kLanguageCount>;
@@ -81,39 +43,37 @@ consteval Addresses MakeAddresses() {
 
 constexpr Addresses kAddresses = MakeAddresses();
 
-// How many texts stand in front of the addresses.
-constexpr std::size_t kTextsBeforeAddresses =
-    std::ranges::lower_bound(kEnglishTexts, kFirstAddressId, {}, &TextRow::id) -
-    std::begin(kEnglishTexts);
-
-// The text of row `row`, address or not, in a language.
-consteval const char* TextAt(std::size_t language, std::size_t row) {
-  if (row < kTextsBeforeAddresses) return kTexts[language][row].text;
-  const std::size_t link = row - kTextsBeforeAddresses;
-  if (link < kAddressCount) return kAddresses[language][link].data();
-  return kTexts[language][row - kAddressCount].text;
-}
-
-consteval unsigned int IdAt(std::size_t row) {
-  if (row < kTextsBeforeAddresses) return kEnglishTexts[row].id;
-  const std::size_t link = row - kTextsBeforeAddresses;
-  if (link < kAddressCount)
-    return kFirstAddressId + static_cast<unsigned int>(link);
-  return kEnglishTexts[row - kAddressCount].id;
+// The texts of a language with its addresses among them, ascending by id.
+consteval std::array<TextRow, kTextCount> RowsOf(std::size_t language) {
+  std::array<TextRow, kTextCount> rows = {};
+  // The compiler has reported the broken file: say nothing about the rest.
+  if (!kFilesAreSound) return rows;
+  const std::span<const TextRow> file = kLanguageFiles[language];
+  const auto behind =
+      std::ranges::lower_bound(file, kFirstAddressId, {}, &TextRow::id);
+  auto row = std::copy(file.begin(), behind, rows.begin());
+  for (unsigned int i = 0; i < kAddressCount; ++i) {
+    *row++ = {kFirstAddressId + i, kAddresses[language][i].data()};
+  }
+  std::copy(behind, file.end(), row);
+  return rows;
 }
 
 consteval MappingTable MakeMappings() {
   MappingTable mappings = {};
+  const auto rows = RowsOf(0);
   for (unsigned int row = 0; row < kTextCount; ++row) {
-    mappings[row] = {IdAt(row), row};
+    mappings[row] = {rows[row].id, row};
   }
   return mappings;
 }
 
 consteval TextTable MakeTexts() {
   TextTable texts = {};
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    texts[i] = TextAt(i / kTextCount, i % kTextCount);
+  for (std::size_t language = 0; language < kLanguageCount; ++language) {
+    std::ranges::transform(RowsOf(language),
+                           texts.begin() + language * kTextCount,
+                           &TextRow::text);
   }
   return texts;
 }

@@ -5,10 +5,12 @@
 #include <cstddef>
 
 #include "strings/languages.h"
+#include "strings/web_addresses.h"
 
 namespace NCPStrings {
 
-inline constexpr std::size_t kTextCount = 160;
+inline constexpr std::size_t kTextCount =
+    std::size(kEnglishTexts) + kAddressCount;
 
 // An id and the row of the text table that holds its text.
 struct StringMapping {

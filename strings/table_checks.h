@@ -7,15 +7,16 @@
 
 #include "strings/languages.h"
 #include "strings/utf8.h"
+#include "strings/web_addresses.h"
 
 namespace NCPStrings {
 
 enum class Fault {
   kNone,
   kRowMissing,
-  kRowTooMany,
   kIdNotAscending,
   kIdNotInEnglish,
+  kIdOfAddress,
   kTextEmpty,
   kPlaceholdersDiffer,
   kInvalidUtf8,
@@ -24,32 +25,48 @@ enum class Fault {
 };
 
 struct RowFault {
-  unsigned int id;
-  Fault fault;
+  unsigned int id = 0;
+  Fault fault = Fault::kNone;
 };
 
 // Rows that show one text in two places.
 inline constexpr std::array<unsigned int, 2> kSharedTexts[] = {
     {21003, 21106}, {21107, 92001}, {31006, 92002}, {41200, 92003}};
 
+// A compiler limits the steps that a constant may take, and these loops read
+// every byte of a language: they call nothing for a byte of ASCII.
 constexpr bool IsUtf8(std::string_view text) {
-  while (!text.empty()) {
-    const std::size_t length = SequenceLength(text);
+  const char* const end = text.data() + text.size();
+  for (const char* next = text.data(); next != end;) {
+    const bool is_ascii = static_cast<unsigned char>(*next) < 0x80;
+    const std::size_t length = is_ascii ? 1 : SequenceLength({next, end});
     if (length == 0) return false;
-    text.remove_prefix(length);
+    next += length;
   }
   return true;
 }
 
+// Some texts are shown as markup, in which these have a meaning.
+constexpr bool HasMarkupCharacter(std::string_view text) {
+  for (const char c : text) {
+    if (c == '<' || c == '>' || c == '&') return true;
+  }
+  return false;
+}
+
 // The next placeholder, from its "%" to its conversion letter; empty at the
-// end. Takes it, and what stands before it, off `text`.
+// end. Takes it, and everything in front of it, off `text`.
 constexpr std::string_view TakePlaceholder(std::string_view* text) {
-  const std::size_t start = text->find('%');
-  if (start == std::string_view::npos) return {};
-  const std::size_t end = text->find_first_of("sdf%", start + 1);
-  const std::string_view placeholder = text->substr(
-      start, end == std::string_view::npos ? end : end + 1 - start);
-  text->remove_prefix(start + placeholder.size());
+  std::size_t start = 0;
+  for (const char c : *text) {
+    if (c == '%') break;
+    ++start;
+  }
+  text->remove_prefix(start);
+  const std::size_t letter = text->find_first_of("sdf%", 1);
+  const std::string_view placeholder =
+      text->substr(0, letter == text->npos ? letter : letter + 1);
+  text->remove_prefix(placeholder.size());
   return placeholder;
 }
 
@@ -64,8 +81,7 @@ constexpr bool HaveSamePlaceholders(std::string_view a, std::string_view b) {
 constexpr Fault FaultOfText(std::string_view english, std::string_view text) {
   if (text.empty()) return Fault::kTextEmpty;
   if (!IsUtf8(text)) return Fault::kInvalidUtf8;
-  // Some texts are shown as markup, so that these would not be themselves.
-  if (text.find_first_of("<>&") != text.npos) return Fault::kMarkupCharacter;
+  if (HasMarkupCharacter(text)) return Fault::kMarkupCharacter;
   if (!HaveSamePlaceholders(english, text)) return Fault::kPlaceholdersDiffer;
   return Fault::kNone;
 }
@@ -78,36 +94,57 @@ constexpr std::string_view TextUnder(unsigned int id,
   return {};
 }
 
-constexpr RowFault FirstFault(std::span<const TextRow> english,
-                              std::span<const TextRow> rows) {
+constexpr RowFault FirstFaultOfIds(std::span<const TextRow> rows) {
+  unsigned int last = 0;
+  for (const TextRow& row : rows) {
+    if (row.id <= last) return {row.id, Fault::kIdNotAscending};
+    if (IsAddressId(row.id)) return {row.id, Fault::kIdOfAddress};
+    last = row.id;
+  }
+  return {};
+}
+
+// Of rows whose ids are ascending.
+constexpr RowFault FirstDifference(std::span<const TextRow> english,
+                                   std::span<const TextRow> rows) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const unsigned int id = rows[i].id;
-    if (i > 0 && id <= rows[i - 1].id) return {id, Fault::kIdNotAscending};
-    if (i >= english.size()) return {id, Fault::kRowTooMany};
+    if (i >= english.size() || id < english[i].id) {
+      return {id, Fault::kIdNotInEnglish};
+    }
     if (id > english[i].id) return {english[i].id, Fault::kRowMissing};
-    if (id < english[i].id) return {id, Fault::kIdNotInEnglish};
     const Fault fault = FaultOfText(english[i].text, rows[i].text);
     if (fault != Fault::kNone) return {id, fault};
   }
-  if (rows.size() < english.size()) {
-    return {english[rows.size()].id, Fault::kRowMissing};
-  }
+  if (rows.size() == english.size()) return {};
+  return {english[rows.size()].id, Fault::kRowMissing};
+}
+
+constexpr RowFault FirstFaultOfSharedTexts(std::span<const TextRow> rows) {
   for (const auto& [first, second] : kSharedTexts) {
     if (TextUnder(first, rows) != TextUnder(second, rows)) {
       return {second, Fault::kSharedTextDiffers};
     }
   }
-  return {0, Fault::kNone};
+  return {};
+}
+
+constexpr RowFault FirstFault(std::span<const TextRow> english,
+                              std::span<const TextRow> rows) {
+  RowFault found = FirstFaultOfIds(rows);
+  if (found.fault == Fault::kNone) found = FirstDifference(english, rows);
+  if (found.fault == Fault::kNone) found = FirstFaultOfSharedTexts(rows);
+  return found;
 }
 
 // Instantiated for each language: a broken one stops the compiler at a name
 // that says the language, the id and the fault.
 template <Language language, unsigned int id, Fault fault>
 struct CheckedRow {
-  static_assert(fault == Fault::kNone,
+  static constexpr bool kIsSound = fault == Fault::kNone;
+  static_assert(kIsSound,
                 "A language file is broken: the name of this instantiation "
                 "says in which language, at which id, and how.");
-  static constexpr bool kIsSound = true;
 };
 
 }  // namespace NCPStrings

@@ -5,30 +5,45 @@
 
 namespace NCPStrings {
 
-// The length of the UTF-8 sequence that `text` begins with; 0 when it begins
-// with none (Unicode Standard, table 3-7).
-constexpr std::size_t SequenceLength(std::string_view text) {
-  const auto byte = [&](std::size_t i) {
-    return i < text.size() ? static_cast<unsigned char>(text[i]) : 0;
-  };
-  const auto continues = [&](std::size_t from, std::size_t to) {
-    for (std::size_t i = from; i < to; ++i) {
-      if (byte(i) < 0x80 || byte(i) > 0xBF) return false;
-    }
-    return true;
-  };
-  const unsigned int first = byte(0);
-  if (first < 0x80) return 1;
-  if (first >= 0xC2 && first <= 0xDF) return continues(1, 2) ? 2 : 0;
-  if (first >= 0xE0 && first <= 0xEF) {
-    const bool overlong = first == 0xE0 && byte(1) < 0xA0;
-    const bool surrogate = first == 0xED && byte(1) > 0x9F;
-    return continues(1, 3) && !overlong && !surrogate ? 3 : 0;
+// The sequences of more than one byte (Unicode Standard, table 3-7): from the
+// first byte follow the length and the range of the second byte; the others
+// are 0x80 to 0xBF.
+struct SequenceForm {
+  unsigned char first_low;
+  unsigned char first_high;
+  unsigned char length;
+  unsigned char second_low;
+  unsigned char second_high;
+};
+inline constexpr SequenceForm kSequenceForms[] = {
+    {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF},
+    {0xE1, 0xEC, 3, 0x80, 0xBF}, {0xED, 0xED, 3, 0x80, 0x9F},
+    {0xEE, 0xEF, 3, 0x80, 0xBF}, {0xF0, 0xF0, 4, 0x90, 0xBF},
+    {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
+};
+
+constexpr bool HasForm(std::string_view text, const SequenceForm& form) {
+  if (text.size() < form.length) return false;
+  for (unsigned int i = 1; i < form.length; ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const bool is_second = i == 1;
+    if (byte < (is_second ? form.second_low : 0x80)) return false;
+    if (byte > (is_second ? form.second_high : 0xBF)) return false;
   }
-  if (first < 0xF0 || first > 0xF4 || !continues(1, 4)) return 0;
-  const bool overlong = first == 0xF0 && byte(1) < 0x90;
-  const bool too_high = first == 0xF4 && byte(1) > 0x8F;
-  return !overlong && !too_high ? 4 : 0;
+  return true;
+}
+
+// The length of the UTF-8 sequence that `text`, which is not empty, begins
+// with; 0 when it begins with none.
+constexpr std::size_t SequenceLength(std::string_view text) {
+  const auto first = static_cast<unsigned char>(text[0]);
+  if (first < 0x80) return 1;
+  for (const SequenceForm& form : kSequenceForms) {
+    if (first >= form.first_low && first <= form.first_high) {
+      return HasForm(text, form) ? form.length : 0;
+    }
+  }
+  return 0;
 }
 
 }  // namespace NCPStrings

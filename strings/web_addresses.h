@@ -19,6 +19,10 @@ inline constexpr std::string_view kHelpTopics[] = {
 inline constexpr unsigned int kFirstAddressId = 13000;
 inline constexpr unsigned int kAddressCount = std::size(kHelpTopics) + 1;
 
+constexpr bool IsAddressId(unsigned int id) {
+  return id >= kFirstAddressId && id - kFirstAddressId < kAddressCount;
+}
+
 // An address, NUL-terminated.
 using Address = std::array<char, 96>;
 

@@ -1,8 +1,10 @@
 #include <clocale>
 #include <cstdlib>
+#include <vector>
 
 #include "app/dialogs.h"
 #include "app/widget_helpers.h"
+#include "strings/languages.h"
 #include "tests/app/panel_test.h"
 
 namespace {
@@ -124,10 +126,17 @@ TEST_P(LayoutTest, ShowsEveryTextWholeWithoutATheme) {
   CheckAll();
 }
 
-// What is not translated is English, whichever way it is read.
-INSTANTIATE_TEST_SUITE_P(
-    , LayoutTest,
-    testing::Values("en_US", "cs_CZ", "de_DE", "es_ES", "fr_FR", "it_IT",
-                    "ja_JP", "ko_KR", "nl_NL", "pl_PL", "pt_BR", "ru_RU",
-                    "sv_SE", "tr_TR", "zh_CN", "zh_TW", "he_IL"),
-    [](const auto& locale) { return std::string(locale.param); });
+std::vector<const char*> Locales() {
+  std::vector<const char*> locales;
+  for (const auto& language : NCPStrings::kLanguages) {
+    locales.push_back(language.locale);
+  }
+  // A text without a translation is English, in either direction of writing.
+  locales.push_back("he_IL");
+  return locales;
+}
+
+INSTANTIATE_TEST_SUITE_P(, LayoutTest, testing::ValuesIn(Locales()),
+                         [](const auto& locale) {
+                           return std::string(locale.param);
+                         });
