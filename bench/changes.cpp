@@ -76,28 +76,27 @@ void MeasureOneChange(const PrivateHome& home) {
       database.get(),
       ("REPLACE INTO settings VALUES ('" + site + "', ?1, ?2)").c_str(), -1,
       &replace, nullptr);
-  Measure(
-      {"permission changed, 200 times", home.Sites().size()},
-      {{kPanel,
-        [&] {
-          for (std::size_t i = 0; i < kChanges; ++i) {
-            PermissionSetting(kPermissions[kCamera], site.c_str())
-                .setState(i % 2 ? PermissionSetting::kPermissionStateAlwaysDeny
-                                : PermissionSetting::kPermissionStateAlwaysAsk);
-          }
-        }},
-       {kFloor,
-        [&] {
-          for (std::size_t i = 0; i < kChanges * 2; ++i) {
-            RewriteFile(file.c_str(), image.data(), image.size());
-          }
-        }},
-       {"SQLite, 2 REPLACE", [&] {
-          for (std::size_t i = 0; i < kChanges; ++i) {
-            Replace(replace, "always", i % 2 == 1);
-            Replace(replace, "allow", 0);
-          }
-        }}});
+  Measure({"permission changed, 200 times", home.Sites().size()},
+          {{kPanel,
+            [&] {
+              for (std::size_t i = 0; i < kChanges; ++i) {
+                PermissionSetting(kPermissions[kCamera], site.c_str())
+                    .setState(i % 2 ? kPermissionStateAlwaysDeny
+                                    : kPermissionStateAlwaysAsk);
+              }
+            }},
+           {kFloor,
+            [&] {
+              for (std::size_t i = 0; i < kChanges * 2; ++i) {
+                RewriteFile(file.c_str(), image.data(), image.size());
+              }
+            }},
+           {"SQLite, 2 REPLACE", [&] {
+              for (std::size_t i = 0; i < kChanges; ++i) {
+                Replace(replace, "always", i % 2 == 1);
+                Replace(replace, "allow", 0);
+              }
+            }}});
   sqlite3_finalize(replace);
 }
 
@@ -111,7 +110,7 @@ void MeasureBlockAll(const PrivateHome& home) {
         [&] {
           (void)StorageSetting(SASM::kDefaultStorageLimit,
                                SettingsManager::MasterDomain())
-              .setPermissionState(PermissionSetting::kPermissionStateAlwaysDeny)
+              .setPermissionState(kPermissionStateAlwaysDeny)
               .commit();
         }},
        {kFloor,

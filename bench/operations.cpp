@@ -74,7 +74,7 @@ void LoadSite(PrivateHome* home, std::size_t) {
 void ChangeSite(const PrivateHome& home, std::size_t times) {
   for (std::size_t i = 0; i < times; ++i) {
     PermissionSetting(kPermissions[kCamera], home.Sites()[0].c_str())
-        .setState(PermissionSetting::kPermissionStateAlwaysAllow);
+        .setState(kPermissionStateAlwaysAllow);
   }
 }
 

@@ -51,7 +51,7 @@ bool SuggestHelp() {
   return false;
 }
 
-bool Complain(const char* what, std::string_view about = "") {
+bool PrintUsageError(const char* what, std::string_view about = "") {
   std::fprintf(stderr, "%s: %s%.*s\n", kProgramName, what,
                static_cast<int>(about.size()), about.data());
   return SuggestHelp();
@@ -75,26 +75,26 @@ bool ParseFilter(std::string_view text, CommandLine* command) {
       return true;
     }
   }
-  return Complain("no such permission: ", text);
+  return PrintUsageError("no such permission: ", text);
 }
 
 // `given` holds the letters of the options that the user gave.
 bool ParseCommand(std::span<char* const> words, std::string_view given,
                   CommandLine* command) {
-  if (words.empty()) return Complain("a command is missing");
+  if (words.empty()) return PrintUsageError("a command is missing");
   const CommandRow* row = FindWord(kCommands, words[0]);
-  if (!row) return Complain("no such command: ", words[0]);
+  if (!row) return PrintUsageError("no such command: ", words[0]);
   const std::size_t stray = given.find_first_not_of(row->options);
   if (stray != given.npos) {
-    return Complain("the command does not take the option -",
-                    given.substr(stray, 1));
+    return PrintUsageError("the command does not take the option -",
+                           given.substr(stray, 1));
   }
   command->action = row->action;
   command->names = words.subspan(1);
   if (command->names.empty()) {
-    return !row->needs_names || Complain("a file is missing");
+    return !row->needs_names || PrintUsageError("a file is missing");
   }
-  return row->takes_names || Complain("stray argument: ", words[1]);
+  return row->takes_names || PrintUsageError("stray argument: ", words[1]);
 }
 
 // kOptions as getopt_long(3) wants it.

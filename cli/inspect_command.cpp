@@ -8,9 +8,9 @@
 #include <utility>
 
 #include "cli/commands.h"
+#include "cli/error_messages.h"
 #include "cli/json_writer.h"
 #include "cli/plain_text.h"
-#include "cli/problems.h"
 #include "cli/settings_source.h"
 #include "settings/settings_reader.h"
 
@@ -219,10 +219,10 @@ class Inspection {
 // False when something is wrong with the file.
 bool InspectFile(const char* path, Listing* listing) {
   SASM::FileImage image;
-  const Reading reading = ReadImage(path, &image);
-  if (reading == Reading::kMissing) ReportProblem(path, std::strerror(errno));
+  const ReadResult result = ReadImage(path, &image);
+  if (result == ReadResult::kMissing) PrintError(path, std::strerror(errno));
   listing->BeginFile(path);
-  if (reading != Reading::kDone) {
+  if (result != ReadResult::kDone) {
     listing->EndFile({}, false);
     return false;
   }
@@ -230,16 +230,16 @@ bool InspectFile(const char* path, Listing* listing) {
   inspection.Run();
   const SettingsReader::Fault& damage = inspection.Damage();
   listing->EndFile(damage, inspection.IsRejected());
-  if (damage.what) ReportDamage(path, damage.what, damage.offset);
+  if (damage.what) PrintDamage(path, damage.what, damage.offset);
   return !damage.what;
 }
 
 bool InspectFiles(const CommandLine& command, Listing* listing) {
-  bool are_sound = true;
+  bool all_intact = true;
   for (const char* path : command.names) {
-    are_sound = InspectFile(path, listing) && are_sound;
+    all_intact = InspectFile(path, listing) && all_intact;
   }
-  return are_sound;
+  return all_intact;
 }
 
 }  // namespace

@@ -5,12 +5,12 @@
 #include <cstring>
 
 #include "cli/commands.h"
-#include "cli/problems.h"
+#include "cli/error_messages.h"
 #include "settings/out_of_memory.h"
 
 namespace {
 
-enum ExitStatus { kWell = 0, kDamaged = 1, kUsage = 2 };
+enum ExitStatus { kSuccess = 0, kFailure = 1, kUsageError = 2 };
 
 bool Run(const CommandLine& command) {
   switch (command.action) {
@@ -35,8 +35,7 @@ bool Run(const CommandLine& command) {
 bool CloseOutput() {
   errno = 0;
   if (std::ferror(stdout) == 0 && std::fclose(stdout) == 0) return true;
-  ReportProblem("standard output",
-                errno ? std::strerror(errno) : "not written");
+  PrintError("standard output", errno ? std::strerror(errno) : "not written");
   return false;
 }
 
@@ -46,7 +45,7 @@ int main(int argc, char* argv[]) {
   ExitWhenOutOfMemory();
   CommandLine command;
   const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
-  if (!ParseCommandLine(arguments, &command)) return kUsage;
-  const bool is_well = Run(command);
-  return CloseOutput() && is_well ? kWell : kDamaged;
+  if (!ParseCommandLine(arguments, &command)) return kUsageError;
+  const bool succeeded = Run(command);
+  return CloseOutput() && succeeded ? kSuccess : kFailure;
 }

@@ -3,39 +3,39 @@
 #include <cerrno>
 #include <cstring>
 
-#include "cli/problems.h"
+#include "cli/error_messages.h"
 #include "settings/settings_reader.h"
 
 using SASM::FileImage;
 using SASM::SimpleString;
 using SMImplementation::SettingsReader;
 
-Reading ReadImage(const SimpleString& path, FileImage* image) {
+ReadResult ReadImage(const SimpleString& path, FileImage* image) {
   errno = 0;
-  if (SASM::ReadFileImage(path, image)) return Reading::kDone;
-  if (errno == ENOENT || errno == ENOTDIR) return Reading::kMissing;
-  ReportProblem(path.HasText() ? path.c_str() : "",
-                errno ? std::strerror(errno) : "not a settings file");
-  return Reading::kFailed;
+  if (SASM::ReadFileImage(path, image)) return ReadResult::kDone;
+  if (errno == ENOENT || errno == ENOTDIR) return ReadResult::kMissing;
+  PrintError(path.HasText() ? path.c_str() : "",
+             errno ? std::strerror(errno) : "not a settings file");
+  return ReadResult::kFailed;
 }
 
 SettingsOnDisk ReadSettings(const SimpleString& path) {
   SettingsOnDisk settings;
   FileImage image;
-  const Reading reading = ReadImage(path, &image);
-  settings.is_missing = reading == Reading::kMissing;
-  if (reading != Reading::kDone) return settings;
+  const ReadResult result = ReadImage(path, &image);
+  settings.is_missing = result == ReadResult::kMissing;
+  if (result != ReadResult::kDone) return settings;
   SettingsReader reader(image.bytes.get(), image.size);
   reader.KeepQuiet();
   SimpleString* name = nullptr;
   settings.dictionary.reset(reader.GetNewSettingsData(&name));
   delete name;
   const SettingsReader::Fault fault = reader.TakeFault();
-  settings.is_sound = settings.dictionary && !fault.what;
+  settings.is_intact = settings.dictionary && !fault.what;
   if (fault.what) {
-    ReportDamage(path.c_str(), fault.what, fault.offset);
+    PrintDamage(path.c_str(), fault.what, fault.offset);
   } else if (!settings.dictionary) {
-    ReportProblem(path.c_str(), std::strerror(ENOMEM));
+    PrintError(path.c_str(), std::strerror(ENOMEM));
   }
   return settings;
 }

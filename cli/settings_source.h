@@ -7,15 +7,15 @@
 #include "store/settings_file.h"
 
 // Whether a file's bytes could be read. kMissing is told to nobody.
-enum class Reading { kDone, kMissing, kFailed };
-[[nodiscard]] Reading ReadImage(const SASM::SimpleString& path,
-                                SASM::FileImage* image);
+enum class ReadResult { kDone, kMissing, kFailed };
+[[nodiscard]] ReadResult ReadImage(const SASM::SimpleString& path,
+                                   SASM::FileImage* image);
 
 struct SettingsOnDisk {
   // Null when the store would make nothing of the file.
   std::unique_ptr<SASM::SettingsDictionary> dictionary;
   bool is_missing = false;
   // False also for a file that is read up to some damage.
-  bool is_sound = false;
+  bool is_intact = false;
 };
 [[nodiscard]] SettingsOnDisk ReadSettings(const SASM::SimpleString& path);

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/error_messages.h"
 #include "cli/json_writer.h"
 #include "cli/plain_text.h"
-#include "cli/problems.h"
 #include "cli/store_view.h"
 #include "model/storage_setting.h"
 #include "platform/linux_file_manager.h"
@@ -112,7 +112,7 @@ void WriteSite(const SiteRow& site, JsonWriter* json) {
   json->Key("site").Text(site.name->c_str());
   WriteStates(site.settings.states, site.settings.storage_limit_kb, json);
   json->Key("storage_used_bytes").Integer(site.settings.storage_used_bytes);
-  json->Key("damaged").Boolean(!site.settings.is_sound);
+  json->Key("damaged").Boolean(!site.settings.is_intact);
   json->EndObject();
 }
 
@@ -122,7 +122,7 @@ void WriteStore(const StoreView& store, const std::vector<SiteRow>& sites) {
   const GlobalSettings global = store.Global();
   json.Key("global").BeginObject();
   WriteStates(global.states, global.storage_limit_kb, &json);
-  json.Key("damaged").Boolean(!store.IsSound());
+  json.Key("damaged").Boolean(!store.IsIntact());
   json.EndObject();
   json.Key("sites").BeginArray();
   for (const SiteRow& site : sites) WriteSite(site, &json);
@@ -144,10 +144,10 @@ bool Passes(const PermissionStates& states, const CommandLine& command) {
                              });
 }
 
-// The sites that the panel would show and the user asked for. `*is_sound`
+// The sites that the panel would show and the user asked for. `*succeeded`
 // becomes false when one is damaged or unknown.
 std::vector<SiteRow> FindSites(const StoreView& store,
-                               const CommandLine& command, bool* is_sound) {
+                               const CommandLine& command, bool* succeeded) {
   std::vector<SiteRow> sites;
   std::vector<bool> is_found(command.names.size());
   const SDIVector* listed = store.ListedSites();
@@ -161,13 +161,13 @@ std::vector<SiteRow> FindSites(const StoreView& store,
     }
     if (!is_wanted) continue;
     const SiteSettings settings = store.Read(name);
-    *is_sound = *is_sound && settings.is_sound;
+    *succeeded = *succeeded && settings.is_intact;
     if (Passes(settings.states, command)) sites.push_back({&name, settings});
   }
   for (std::size_t k = 0; k < command.names.size(); ++k) {
     if (is_found[k]) continue;
-    ReportProblem(command.names[k], "no such site");
-    *is_sound = false;
+    PrintError(command.names[k], "no such site");
+    *succeeded = false;
   }
   return sites;
 }
@@ -177,15 +177,15 @@ std::vector<SiteRow> FindSites(const StoreView& store,
 bool RunShow(const CommandLine& command) {
   const LinuxFileManager files;
   const StoreView store(files);
-  bool is_sound = store.IsSound();
-  const std::vector<SiteRow> sites = FindSites(store, command, &is_sound);
+  bool succeeded = store.IsIntact();
+  const std::vector<SiteRow> sites = FindSites(store, command, &succeeded);
   if (command.json) {
     WriteStore(store, sites);
-    return is_sound;
+    return succeeded;
   }
   StringManager strings;
   PrintGlobal(store.Global(), &strings);
   PrintSites(sites, &strings);
   PrintLocations(store.TrustedLocations(), &strings);
-  return is_sound;
+  return succeeded;
 }

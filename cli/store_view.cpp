@@ -16,7 +16,7 @@ StoreView::StoreView(const SASM::FileManager& files)
   if (layout_.IsOnDisk()) {
     SettingsOnDisk master =
         ReadSettings(layout_.SettingsFileOf(SASM::MasterDomainName()));
-    is_sound_ = master.is_sound || master.is_missing;
+    is_intact_ = master.is_intact || master.is_missing;
     master_ = std::move(master.dictionary);
   }
   if (!master_) master_ = std::make_unique<SettingsDictionary>();
@@ -55,6 +55,6 @@ SiteSettings StoreView::Read(const SimpleString& name) const {
   }
   site.storage_limit_kb = StoredLimitKb(on_disk.dictionary.get());
   site.storage_used_bytes = SASM::LocalStorageSize(name, layout_, files_);
-  site.is_sound = on_disk.is_sound;
+  site.is_intact = on_disk.is_intact;
   return site;
 }

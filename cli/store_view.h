@@ -20,7 +20,7 @@ struct SiteSettings {
   PermissionStates states = {};
   double storage_limit_kb = 0;
   std::uint64_t storage_used_bytes = 0;
-  bool is_sound = false;
+  bool is_intact = false;
 };
 
 // Reads the master settings once, and a site's when it is asked for. Where
@@ -33,7 +33,7 @@ class StoreView {
 
   // False when the user has no home directory, or when the master settings
   // are there but could not be read whole.
-  [[nodiscard]] bool IsSound() const { return is_sound_; }
+  [[nodiscard]] bool IsIntact() const { return is_intact_; }
 
   [[nodiscard]] GlobalSettings Global() const;
   // Elements named by paths, and by sites; borrowed, null when there are
@@ -49,5 +49,5 @@ class StoreView {
   const SASM::FileManager& files_;
   SASM::StoreLayout layout_;
   std::unique_ptr<SASM::SettingsDictionary> master_;
-  bool is_sound_ = false;
+  bool is_intact_ = false;
 };

@@ -38,7 +38,7 @@ TEST_F(LoadTest, TenThousandSites) {
       get_column(panel_->builder, "site_storage_site_column"));
   ASSERT_EQ(Column(list.list_store, 0)[2], "s10.example");
   Select(list.tree_view, {0, 2, 9999});
-  ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysAsk);
+  ChooseInList(kStorageMode, kPermissionStateAlwaysAsk);
   EXPECT_EQ(home_.Stored("s10.example", "klimit"), "0");
   Select(list.tree_view, {2});
   Click(list.remove_button);
@@ -67,7 +67,7 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
     for (const SitePermission& list : kSitePermissions) ShowList(list);
   }
   Select("site_storage_treeview", {0, 1, 2, 3, 4, 5});
-  ChooseInList(kStorageMode, PermissionSetting::kPermissionStateAlwaysDeny);
+  ChooseInList(kStorageMode, kPermissionStateAlwaysDeny);
   for (const std::string& site : sites)
     EXPECT_EQ(home_.Stored(site, "klimit"), "-1");
   Select("site_storage_treeview", {0, 1, 3});

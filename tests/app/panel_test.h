@@ -8,7 +8,6 @@
 
 #include "app/gnome_tcc_applet.h"
 #include "app/site_lists.h"
-#include "model/permission_setting.h"
 #include "tests/support/panel_home.h"
 
 // Needs a process for each test: the panel's store is one for a process. Any

@@ -5,5 +5,5 @@
 
 // Both print a line that begins with the program's name and the file's or
 // site's.
-void ReportProblem(const char* name, const char* what);
-void ReportDamage(const char* file, const char* what, std::uint64_t offset);
+void PrintError(const char* name, const char* what);
+void PrintDamage(const char* file, const char* what, std::uint64_t offset);
