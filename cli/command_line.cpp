@@ -16,7 +16,8 @@ struct CommandRow {
   const char* arguments;
   const char* help;
   Action action;
-  // Options beside those that every command takes.
+  // Letters of the options that this command takes, beside --help and
+  // --version.
   const char* options;
   bool takes_names;
   bool needs_names;
@@ -41,19 +42,19 @@ struct OptionRow {
 constexpr OptionRow kOptions[] = {
     {'j', "json", nullptr, "with show or inspect: print JSON"},
     {'p', "permission", "KIND=STATE",
-     "with show: only sites of which this holds"},
+     "with show: only sites with this permission"},
     {'h', "help", nullptr, "print this help and exit"},
     {'V', "version", nullptr, "print the version of this program and exit"},
 };
 
+// These return false, for callers that then fail.
 bool SuggestHelp() {
   std::fprintf(stderr, "Try '%s --help'.\n", kProgramName);
   return false;
 }
-
-bool PrintUsageError(const char* what, std::string_view about = "") {
-  std::fprintf(stderr, "%s: %s%.*s\n", kProgramName, what,
-               static_cast<int>(about.size()), about.data());
+bool PrintUsageError(const char* message, std::string_view argument = "") {
+  std::fprintf(stderr, "%s: %s%.*s\n", kProgramName, message,
+               static_cast<int>(argument.size()), argument.data());
   return SuggestHelp();
 }
 
@@ -78,26 +79,25 @@ bool ParseFilter(std::string_view text, CommandLine* command) {
   return PrintUsageError("no such permission: ", text);
 }
 
-// `given` holds the letters of the options that the user gave.
-bool ParseCommand(std::span<char* const> words, std::string_view given,
+bool ParseCommand(std::span<char* const> words, std::string_view option_letters,
                   CommandLine* command) {
   if (words.empty()) return PrintUsageError("a command is missing");
   const CommandRow* row = FindWord(kCommands, words[0]);
   if (!row) return PrintUsageError("no such command: ", words[0]);
-  const std::size_t stray = given.find_first_not_of(row->options);
-  if (stray != given.npos) {
+  const std::size_t refused = option_letters.find_first_not_of(row->options);
+  if (refused != option_letters.npos) {
     return PrintUsageError("the command does not take the option -",
-                           given.substr(stray, 1));
+                           option_letters.substr(refused, 1));
   }
   command->action = row->action;
   command->names = words.subspan(1);
   if (command->names.empty()) {
     return !row->needs_names || PrintUsageError("a file is missing");
   }
-  return row->takes_names || PrintUsageError("stray argument: ", words[1]);
+  return row->takes_names || PrintUsageError("unexpected argument: ", words[1]);
 }
 
-// kOptions as getopt_long(3) wants it.
+// kOptions in the form of getopt_long(3).
 struct OptionTables {
   OptionTables() {
     for (const OptionRow& row : kOptions) {
@@ -118,14 +118,14 @@ struct OptionTables {
 bool ParseCommandLine(std::span<char*> arguments, CommandLine* command) {
   const OptionTables tables;
   const auto count = static_cast<int>(arguments.size());
-  std::string given;
+  std::string option_letters;
   for (;;) {
     const int letter =
         getopt_long(count, arguments.data(), tables.letters.c_str(),
                     tables.names.data(), nullptr);
     if (letter == -1) break;
     if (letter == '?') return SuggestHelp();
-    given += static_cast<char>(letter);
+    option_letters += static_cast<char>(letter);
     if (letter == 'j') command->json = true;
     if (letter == 'p' && !ParseFilter(optarg, command)) return false;
     if (letter != 'h' && letter != 'V') continue;
@@ -133,7 +133,7 @@ bool ParseCommandLine(std::span<char*> arguments, CommandLine* command) {
     return true;
   }
   return ParseCommand(arguments.subspan(static_cast<std::size_t>(optind)),
-                      given, command);
+                      option_letters, command);
 }
 
 void PrintHelp(std::FILE* output) {
@@ -156,8 +156,8 @@ void PrintHelp(std::FILE* output) {
   }
   std::fputs(
       "\nKIND is storage, camera or network; STATE is block, ask or allow.\n"
-      "Exit status: 0 if all is well, 1 if something is damaged or cannot "
-      "be read,\n2 if the command line makes no sense.\n",
+      "Exit status: 0 on success, 1 if something is damaged, unknown or "
+      "cannot be read,\n2 if the command line is wrong.\n",
       output);
 }
 

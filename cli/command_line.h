@@ -1,4 +1,4 @@
-// What the user asks for.
+// The command line of the program.
 #pragma once
 
 #include <cstdio>
@@ -20,14 +20,14 @@ struct CommandLine {
 
   Action action = Action::kHelp;
   bool json = false;
-  // All of them hold of a site that is shown.
+  // A site is shown only if it meets all of them.
   std::vector<PermissionFilter> filters;
-  // Sites or files; borrowed from the arguments of the program.
+  // Sites or files, borrowed from the program's arguments.
   std::span<char* const> names;
 };
 
-// Reorders `arguments`, which begin with the program's name. False when they
-// make no sense; standard error then says why.
+// `arguments` begin with the program's name; they are reordered. When they are
+// wrong, prints why and returns false.
 [[nodiscard]] bool ParseCommandLine(std::span<char*> arguments,
                                     CommandLine* command);
 

@@ -3,10 +3,10 @@
 
 #include "cli/command_line.h"
 
-// Both are false when something was damaged, unreadable or unknown, which
-// standard error then names.
+// False when something is damaged, unreadable or unknown. Each such thing is
+// named on standard error; the rest is printed.
 [[nodiscard]] bool RunShow(const CommandLine& command);
 [[nodiscard]] bool RunInspect(const CommandLine& command);
 
-// Loads the plug-in, see plugin/plugin_version.h.
+// Loads the plug-in: see plugin/plugin_version.h.
 void RunVersion();

@@ -6,12 +6,12 @@
 #include "cli/command_line.h"
 #include "cli/plain_text.h"
 
-void PrintError(const char* name, const char* what) {
+void PrintError(const char* name, const char* message) {
   std::fprintf(stderr, "%s: %s: %s\n", kProgramName, Printable(name).c_str(),
-               what);
+               message);
 }
 
-void PrintDamage(const char* file, const char* what, std::uint64_t offset) {
+void PrintDamage(const char* file, const char* message, std::uint64_t offset) {
   std::fprintf(stderr, "%s: %s: byte %" PRIu64 ": %s\n", kProgramName,
-               Printable(file).c_str(), offset, what);
+               Printable(file).c_str(), offset, message);
 }

@@ -1,9 +1,9 @@
-// What is wrong, told on standard error.
+// Messages on standard error.
 #pragma once
 
 #include <cstdint>
 
-// Both print a line that begins with the program's name and the file's or
-// site's.
-void PrintError(const char* name, const char* what);
-void PrintDamage(const char* file, const char* what, std::uint64_t offset);
+// "PROGRAM: NAME: MESSAGE", where the name is that of a file or a site.
+void PrintError(const char* name, const char* message);
+// "PROGRAM: FILE: byte OFFSET: MESSAGE".
+void PrintDamage(const char* file, const char* message, std::uint64_t offset);

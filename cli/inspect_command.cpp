@@ -33,13 +33,13 @@ class Listing {
  public:
   virtual ~Listing() = default;
   virtual void BeginFile(const char* path) = 0;
-  // What the file calls itself, in front of its entries.
+  // The name that the file carries inside. Before the entries.
   virtual void Name(const char* name) = 0;
-  // An entry and what was wrong in it, if anything was.
+  // `fault` has no text when the entry is undamaged.
   virtual void Entry(const SettingDataItem& entry, std::uint64_t offset,
                      const SettingsReader::Fault& fault) = 0;
-  // `damage` is what made an end of the reading, or else the first thing that
-  // was wrong in the file; without a text when all is well.
+  // `damage` is what ended the reading, or else the first fault in the file. It
+  // has no text when there was none.
   virtual void EndFile(const SettingsReader::Fault& damage,
                        bool is_rejected) = 0;
 };
@@ -79,7 +79,7 @@ class TextListing : public Listing {
     }
   }
 
-  // An element of an array has no offset, and stands farther to the right.
+  // Elements of an array have no offset and are indented.
   static void PrintItem(const std::string& offset,
                         const SettingDataItem& item) {
     std::printf("%10s  %-7s  %s%s%s\n", offset.c_str(), TypeWord(item),
@@ -200,7 +200,7 @@ class Inspection {
     if (!is_rejected_) listing_->Entry(entry, offset, fault);
   }
 
-  // What has been found wrong since the last call.
+  // The fault found since the last call. Has no text when there was none.
   SettingsReader::Fault TakeFault() {
     SettingsReader::Fault fault = reader_.TakeFault();
     if (is_rejected_ && !fault.what) {
@@ -216,7 +216,7 @@ class Inspection {
   bool is_rejected_ = false;
 };
 
-// False when something is wrong with the file.
+// False when the file is damaged or cannot be read.
 bool InspectFile(const char* path, Listing* listing) {
   SASM::FileImage image;
   const ReadResult result = ReadImage(path, &image);

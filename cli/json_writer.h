@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <string_view>
 
-// Writes one value, an object or an array, as it is told; calls come in the
-// order of the text, and the caller closes what it opened. Always valid JSON
-// (RFC 8259): a byte of a text that is no UTF-8 becomes U+FFFD, and a number
-// that JSON does not know the text "NaN", "Infinity" or "-Infinity".
+// Prints one object or array, call by call in the order of the output. The
+// caller closes what it opened. The output is valid JSON (RFC 8259): a byte
+// that is not UTF-8 becomes U+FFFD, and a number that JSON cannot express
+// becomes the text "NaN", "Infinity" or "-Infinity".
 class JsonWriter {
  public:
-  // In front of every value of an object. Returns the writer itself.
+  // Goes before each value of an object. Returns the writer itself.
   JsonWriter& Key(std::string_view key);
 
   void Text(std::string_view bytes);
@@ -22,7 +22,7 @@ class JsonWriter {
   void EndObject() { Close('}'); }
   void BeginArray() { Open('['); }
   void EndArray() { Close(']'); }
-  // After the last value.
+  // Ends the output.
   static void EndLine();
 
  private:

@@ -1,5 +1,4 @@
-// Shows the settings of the player, its sites and its plug-in, and changes
-// nothing.
+// Shows settings and versions without changing anything.
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -31,7 +30,7 @@ bool Run(const CommandLine& command) {
   return false;
 }
 
-// What is in a buffer is not written yet.
+// Writes what is still buffered. Prints a message on failure.
 bool CloseOutput() {
   errno = 0;
   if (std::ferror(stdout) == 0 && std::fclose(stdout) == 0) return true;

@@ -9,7 +9,7 @@
 
 namespace {
 
-// A longer cell pushes its own row out of line, not all the others.
+// A longer cell does not widen its column: only its own row is out of line.
 constexpr int kWidestColumn = 48;
 
 struct Range {
@@ -23,7 +23,7 @@ constexpr Range kInvisible[] = {
 };
 
 // Characters that take two columns (Unicode Standard Annex #11), and none.
-// Not wcwidth(3), which knows only the characters of the user's locale.
+// wcwidth(3) would know only the characters of the user's locale.
 constexpr Range kWide[] = {
     {0x1100, 0x115F},   {0x2E80, 0x303E},   {0x3041, 0x4DBF},
     {0x4E00, 0xA4CF},   {0xA960, 0xA97C},   {0xAC00, 0xD7A3},
@@ -40,7 +40,7 @@ bool IsIn(std::span<const Range> ranges, char32_t character) {
   });
 }
 
-// The character of a well-formed sequence.
+// `sequence` is one character of well-formed UTF-8.
 char32_t Decode(std::string_view sequence) {
   const auto first = static_cast<unsigned char>(sequence[0]);
   if (sequence.size() == 1) return first;
@@ -59,7 +59,7 @@ void AppendEscaped(std::string_view bytes, std::string* text) {
   }
 }
 
-// Columns on a screen, of well-formed text.
+// In columns of a terminal. `text` is well-formed UTF-8.
 int DisplayWidth(std::string_view text) {
   int width = 0;
   while (!text.empty()) {

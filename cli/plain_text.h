@@ -1,27 +1,27 @@
-// Bytes of files as text that is safe to read in a terminal.
+// Text that is safe to print on a terminal, whatever a file holds.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-// The text with everything that is no visible character as "\xNN": control
-// characters, the invisible ones that turn the direction of writing, and
-// bytes that are no UTF-8. A backslash is doubled.
+// The text with each byte of an invisible character as "\xNN": control
+// characters, characters that change the direction of writing, and bytes that
+// are not UTF-8. A backslash is doubled.
 [[nodiscard]] std::string Printable(std::string_view bytes);
 
-// The shortest decimal that reads back as the same number, or "nan", "inf",
-// "-inf".
+// The shortest decimal that reads back as the same number; "nan", "inf" or
+// "-inf" for others.
 [[nodiscard]] std::string Decimal(double number);
 
-// Rows of cells, printed with their columns in line.
+// Prints rows of cells in aligned columns.
 class TextTable {
  public:
   using Row = std::vector<std::string>;
 
-  // Every row has as many cells as the first.
+  // All rows have the same number of cells.
   void Add(Row row) { rows_.push_back(std::move(row)); }
-  // On standard output.
+  // Prints on standard output.
   void Print() const;
 
  private:

@@ -1,4 +1,4 @@
-// Settings files, opened for reading only; what is wrong with one is told on
+// Settings files, opened for reading only. Damage and failures are reported on
 // standard error.
 #pragma once
 
@@ -6,16 +6,17 @@
 
 #include "store/settings_file.h"
 
-// Whether a file's bytes could be read. kMissing is told to nobody.
+// kMissing is not reported.
 enum class ReadResult { kDone, kMissing, kFailed };
 [[nodiscard]] ReadResult ReadImage(const SASM::SimpleString& path,
                                    SASM::FileImage* image);
 
 struct SettingsOnDisk {
-  // Null when the store would make nothing of the file.
+  // Null when the file cannot be read as settings.
   std::unique_ptr<SASM::SettingsDictionary> dictionary;
   bool is_missing = false;
-  // False also for a file that is read up to some damage.
+  // False for a file that is missing, unreadable or damaged, even if a part of
+  // it could be read.
   bool is_intact = false;
 };
 [[nodiscard]] SettingsOnDisk ReadSettings(const SASM::SimpleString& path);

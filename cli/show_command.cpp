@@ -39,13 +39,13 @@ std::string SizeText(double bytes) {
   return text;
 }
 
-// As the panel shows it, and the exact number where that is another.
+// As the panel shows it, followed by the exact number unless it is the same.
 std::string UsedText(std::uint64_t bytes) {
   std::string text = SizeText(static_cast<double>(bytes));
   return bytes < 1024 ? text : text + " (" + std::to_string(bytes) + ")";
 }
 
-// The state, and of an allowed storage how much of it.
+// The state, followed for allowed storage by the limit.
 std::string StateText(const PermissionStates& states, PermissionKind permission,
                       double storage_limit_kb, StringManager* strings) {
   std::string text =
@@ -144,8 +144,8 @@ bool Passes(const PermissionStates& states, const CommandLine& command) {
                              });
 }
 
-// The sites that the panel would show and the user asked for. `*succeeded`
-// becomes false when one is damaged or unknown.
+// The sites that the panel would show and the user asked for. When one is
+// damaged or unknown, reports it and sets `*succeeded` to false.
 std::vector<SiteRow> FindSites(const StoreView& store,
                                const CommandLine& command, bool* succeeded) {
   std::vector<SiteRow> sites;

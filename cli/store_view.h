@@ -1,4 +1,4 @@
-// The store as the panel would show it, from files that are only read.
+// The store as the panel would show it, without changing any file.
 #pragma once
 
 #include <array>
@@ -23,25 +23,25 @@ struct SiteSettings {
   bool is_intact = false;
 };
 
-// Reads the master settings once, and a site's when it is asked for. Where
-// the panel would put defaults on disk, they are put in memory. Standard error
-// tells of every file that is damaged or cannot be read.
+// Reads the master settings once, and the settings of a site on request.
+// Defaults that the panel would write to disk are added in memory. Damaged and
+// unreadable files are reported on standard error.
 class StoreView {
  public:
-  // The file manager is borrowed and outlives this object.
+  // The file manager is borrowed and must outlive this object.
   explicit StoreView(const SASM::FileManager& files);
 
-  // False when the user has no home directory, or when the master settings
-  // are there but could not be read whole.
+  // False when the user has no home directory, or when the file of the master
+  // settings exists and is damaged or unreadable.
   [[nodiscard]] bool IsIntact() const { return is_intact_; }
 
   [[nodiscard]] GlobalSettings Global() const;
-  // Elements named by paths, and by sites; borrowed, null when there are
-  // none. Not every site that is listed is known.
+  // Lists whose elements are named by a path or a site. Borrowed; null when
+  // nothing is stored.
   [[nodiscard]] const SASM::SDIVector* TrustedLocations() const;
   [[nodiscard]] const SASM::SDIVector* ListedSites() const;
 
-  // Whether the panel shows the listed site.
+  // True when the panel would show the listed site: it has a settings file.
   [[nodiscard]] bool IsKnown(const SASM::SimpleString& site) const;
   [[nodiscard]] SiteSettings Read(const SASM::SimpleString& name) const;
 

@@ -6,7 +6,7 @@ using testing::HasSubstr;
 using CommandLine = SettingsProgramTest;
 using VersionCommand = SettingsProgramTest;
 
-TEST_F(CommandLine, IsRefusedWhereItMakesNoSense) {
+TEST_F(CommandLine, IsRefusedWhenItIsWrong) {
   for (const char* arguments :
        {"", "shw", "show --jsn", "show --permission", "show -p storage",
         "show -p storage=", "show -p =block", "show -p disk=block",
@@ -27,8 +27,8 @@ TEST_F(CommandLine, FailsWhenItsOutputIsLost) {
   EXPECT_THAT(run.errors, HasSubstr("No space left on device"));
 }
 
-// Puts one of the stand-ins for the plug-in, or none, where it is found.
-TEST_F(VersionCommand, TellsWhatIsInstalled) {
+// Installs a stand-in for the plug-in, or none.
+TEST_F(VersionCommand, ShowsWhatIsInstalled) {
   const struct {
     const char* stand_in;
     const char* text;
@@ -42,7 +42,7 @@ TEST_F(VersionCommand, TellsWhatIsInstalled) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.stand_in);
-    // Without PATH nothing is located that this computer may have.
+    // Without PATH no plug-in of this computer is found.
     const ProgramRun run = RunCommand(
         "ln -sf " STAND_INS "/" + std::string(c.stand_in) +
         " ~/libcorvaneplayer.so; PATH=/nonexistent MOZ_PLUGIN_PATH=~ " PROGRAM

@@ -21,7 +21,7 @@ class InspectCommand : public SettingsProgramTest {
   std::string command_ = "inspect";
 };
 
-// Entries begin at byte 22, in more than 62 bytes of them at byte 26.
+// The first entry is at byte 22; at byte 26 if the entries exceed 62 bytes.
 Bytes FileOf(const Bytes& entries) { return File("name", entries); }
 
 TEST_F(InspectCommand, ListsEntriesWithTypesAndOffsets) {
@@ -46,7 +46,7 @@ TEST_F(InspectCommand, ListsEntriesWithTypesAndOffsets) {
 }
 
 TEST_F(InspectCommand, ListsUpToTheDamageAndSaysWhereItIs) {
-  const Bytes good = Entry("good", Bool(1));  // of nine bytes
+  const Bytes good = Entry("good", Bool(1));  // nine bytes
   const Bytes key = Text("k");
   const struct {
     Bytes bytes;
@@ -63,7 +63,7 @@ TEST_F(InspectCommand, ListsUpToTheDamageAndSaysWhereItIs) {
        "The entry is not closed by a zero byte."},
       {FileOf(good + key + Hex("03 00 00 08 00") + good), 1, 38,
        "The array is not closed by its marker."},
-      // What is passed over.
+      // Values that are skipped.
       {FileOf(good + key + Hex("07 00") + good), 3, 35, "Unexpected data-type"},
       {FileOf(good + key + Hex("03 00 01 61 03 00 00 09 00") + good), 3, 39,
        "Nested arrays"},
@@ -108,8 +108,8 @@ true
 )");
 }
 
-// Every prefix of a file is a file that somebody's disk may hold.
-TEST_F(InspectCommand, GoesOnToTheNextFileWhateverOneIs) {
+// A file may be cut at any byte.
+TEST_F(InspectCommand, GoesOnToTheNextFileWhateverThisOneHolds) {
   const Bytes file = FileOf(Entry("list", Array(Element("a", Number(1)))) +
                             Entry("k", String("text")));
   for (std::size_t size = 0; size < file.size(); ++size) {

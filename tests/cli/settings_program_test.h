@@ -1,4 +1,4 @@
-// The installed program that reads settings, on a home of the test's own.
+// Runs corvane-player-settings on a temporary home.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -16,8 +16,8 @@ class SettingsProgramTest : public testing::Test {
   static ProgramRun Run(const std::string& arguments) {
     return RunCommand(std::string(PROGRAM) + " " + arguments);
   }
-  // The same, with the output that a jq filter makes of its JSON. The program
-  // has to have written UTF-8: jq alone would mend what is none.
+  // The same with --json; the output is that of a jq filter. iconv checks that
+  // it is UTF-8: jq alone would replace bytes that are not.
   static ProgramRun Query(const std::string& arguments,
                           const std::string& filter) {
     return RunCommand("json=$(" PROGRAM " --json " + arguments +

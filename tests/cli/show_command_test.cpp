@@ -40,7 +40,7 @@ class ShowCommand : public SettingsProgramTest {
   }
 };
 
-TEST_F(ShowCommand, ShowsDefaultsWhereNothingIsKept) {
+TEST_F(ShowCommand, ShowsDefaultsWhenNothingIsStored) {
   for (const char* directory : {"empty", "missing"}) {
     const TemporaryHome home;
     setenv("HOME", (home / directory).c_str(), 1);
@@ -53,7 +53,7 @@ TEST_F(ShowCommand, ShowsDefaultsWhereNothingIsKept) {
   }
 }
 
-TEST_F(ShowCommand, ShowsSitesInOrderWithEverythingTheyHave) {
+TEST_F(ShowCommand, ShowsSitesInOrderWithAllTheirSettings) {
   EXPECT_EQ(Answer("show", kSiteStates),
             "block: block -1 block ask false\n"
             "日\x1B: allow 10240 allow block false\n"
@@ -86,7 +86,7 @@ TEST_F(ShowCommand, MeasuresTheDataOfSites) {
   EXPECT_THAT(Run("show").output, HasSubstr(" (" + used + ") "));
 }
 
-TEST_F(ShowCommand, PutsWhatHoldsForAllSitesFirst) {
+TEST_F(ShowCommand, LetsAGlobalBlockOverrideASite) {
   Store("ask", Entry("p2palways", Bool(1)) + Entry("p2pallow", Bool(7)));
   EXPECT_EQ(Answer("show ask", kSiteStates), "ask: block -1 ask allow false\n");
   StoreMaster(Entry("disallowP2PUplink", Bool(1)) +
@@ -131,11 +131,11 @@ TEST_F(ShowCommand, NamesWhatIsDamagedAndShowsTheRest) {
     std::string file;
     Bytes bytes;
     const char* damage;
-    const char* storage;  // for all, then of each site
+    const char* storage;  // of all sites, then of each
   } cases[] = {
       {site, "garbage", ": byte 2: The record type is not 2.\n",
        "allow block allow block! allow"},
-      {site, File("n") + Text("klimit") + Number(7),  // read all the same
+      {site, File("n") + Text("klimit") + Number(7),  // still read
        ": byte 36: ReadU8() attempted to read beyond end-of-stream.\n",
        "allow block allow allow! allow"},
       {master, "",
@@ -162,7 +162,7 @@ TEST_F(ShowCommand, NamesWhatIsDamagedAndShowsTheRest) {
 TEST_F(ShowCommand, ChangesNothing) {
   home_.Write(Home::SettingsFileOf("block"), "garbage");
   home_.Write(Home::StorageOf("ask") + "/data", "x");
-  // Reading updates a time of access that is older than the last change.
+  // Reading a file updates an access time older than the last change.
   (void)RunCommand("find ~ -type f -exec touch -a -d @1 {} +");
   const std::string state =
       "find ~ -type d -printf '%p %m %C@\n' -o -printf '%p %i %m %A@ %C@\n'";

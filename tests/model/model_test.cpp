@@ -1,4 +1,4 @@
-// Setting objects over a store of the test's own.
+// Setting objects over a store in a temporary home.
 #include <cmath>
 #include <cstdlib>
 
@@ -34,7 +34,7 @@ class Setting : public StoreTest {
 
 using StorageLimit = Setting;
 
-TEST_F(Setting, OfAnotherTypeReadsAsIfItWereMissing) {
+TEST_F(Setting, OfAnotherTypeReadsAsMissing) {
   const struct {
     Bytes entry;
     double number;
@@ -71,7 +71,7 @@ TEST_F(Setting, PermissionIsWrittenAlwaysFirst) {
   EXPECT_EQ(setting.getState(), kAsk);
   for (const auto& c : cases) {
     SCOPED_TRACE(c.then);
-    std::string before;  // the last file that goes
+    std::string before;  // the last removal
     files_.before_removal = [&](const std::string&) {
       before = SiteOnDisk("a");
       return true;
@@ -136,12 +136,12 @@ TEST_F(StorageLimit, StagesAPositionBeforeAPermission) {
     EXPECT_EQ(setting.isSettingLessThanOldValue(), c.is_smaller);
     EXPECT_TRUE(setting.commit());
     EXPECT_EQ(setting.getValue(), c.stored);
-    // A position takes no data; -2 is none, so that the permission counts.
+    // A position deletes no data. -2 is not a position: the permission counts.
     EXPECT_EQ(HasData("a"), c.position != -2);
   }
 }
 
-TEST_F(StorageLimit, ReachesWhatItShouldWhenItIsCommitted) {
+TEST_F(StorageLimit, ReachesListedSitesAndTheirDataWhenCommitted) {
   const struct {
     State state;
     double stored;
@@ -150,7 +150,7 @@ TEST_F(StorageLimit, ReachesWhatItShouldWhenItIsCommitted) {
   BeginModel({"a", "b", "other"});
   EXPECT_TRUE(Of("other").setPermissionState(kBlock).commit());
   EXPECT_TRUE(!HasData("other") && HasData("a") && HasData("b"));
-  // A file may list it, and anybody can add it as a site.
+  // A file may list the master domain, and a user may add it as a site.
   EXPECT_TRUE(manager_->AddDomainWithDefaultSettings(master));
   for (const auto& c : cases) {
     SCOPED_TRACE(c.stored);
