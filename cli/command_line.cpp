@@ -66,6 +66,17 @@ const auto* FindWord(const Rows& rows, std::string_view word) {
   return row == std::end(rows) ? nullptr : row;
 }
 
+// "a, b or c"
+template <typename Row, std::size_t count>
+std::string Alternatives(const Row (&rows)[count]) {
+  std::string text = rows[0].word;
+  for (std::size_t i = 1; i < count; ++i) {
+    text += i + 1 < count ? ", " : " or ";
+    text += rows[i].word;
+  }
+  return text;
+}
+
 bool ParseFilter(std::string_view text, CommandLine* command) {
   const std::size_t equals = text.find('=');
   if (equals != text.npos) {
@@ -154,8 +165,10 @@ void PrintHelp(std::FILE* output) {
     if (row.argument) words += std::string("=") + row.argument;
     std::fprintf(output, "  %-*s%s\n", kColumn, words.c_str(), row.help);
   }
+  std::fprintf(output, "\nKIND is %s; STATE is %s.\n",
+               Alternatives(kPermissions).c_str(),
+               Alternatives(kPermissionChoices).c_str());
   std::fputs(
-      "\nKIND is storage, camera or network; STATE is block, ask or allow.\n"
       "Exit status: 0 on success, 1 if something is damaged, unknown or "
       "cannot be read,\n2 if the command line is wrong.\n",
       output);
