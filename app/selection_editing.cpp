@@ -1,6 +1,17 @@
 #include "app/selection_editing.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
+
+// Where and when a click opened a menu, or the last click that belongs to it.
+struct OpeningClick {
+  guint32 time;  // milliseconds, on the display's clock
+  double x;      // on the screen
+  double y;
+  bool is_pressed;
+};
 
 bool IsPlainClick(GtkTreeView* view, const GdkEventButton& event) {
   return event.window == gtk_tree_view_get_bin_window(view) &&
@@ -48,7 +59,52 @@ void AllowChanges(GtkTreeSelection* selection, gboolean are_allowed) {
                                          GINT_TO_POINTER(are_allowed), nullptr);
 }
 
-// Not before the release, which a menu that is open takes for a choice.
+// With a margin for slow and unsteady hands.
+bool IsDoubleClick(GtkWidget* widget, const OpeningClick& first,
+                   const GdkEventButton& second) {
+  constexpr int kShortestTime = 600;  // milliseconds between two clicks
+  constexpr double kDistance = 16;    // pixels
+  int time = 0;
+  g_object_get(gtk_widget_get_settings(widget), "gtk-double-click-time", &time,
+               nullptr);
+  return second.time - first.time <
+             static_cast<guint32>(std::max(time, kShortestTime)) &&
+         std::hypot(second.x_root - first.x, second.y_root - first.y) <
+             kDistance;
+}
+
+OpeningClick ClickOf(const GdkEventButton& event) {
+  return {event.time, event.x_root, event.y_root,
+          event.type == GDK_BUTTON_PRESS};
+}
+
+// Keeps the second click of a double click from the menu that the first click
+// opened: the menu would take it as a choice.
+gboolean IgnoreDoubleClick(GtkWidget* menu, GdkEvent* event, gpointer data) {
+  const bool is_press = event->type == GDK_BUTTON_PRESS;
+  if (!is_press && event->type != GDK_BUTTON_RELEASE) return FALSE;
+  auto* opening = static_cast<OpeningClick*>(data);
+  const bool ends_ignored_press = !is_press && opening->is_pressed;
+  if (!ends_ignored_press && !IsDoubleClick(menu, *opening, event->button)) {
+    return FALSE;
+  }
+  *opening = ClickOf(event->button);
+  return TRUE;
+}
+
+// A theme may replace the menu by a list, which does not open at once.
+void IgnoreDoubleClickOn(GtkCellEditable* combo_box,
+                         const GdkEventButton& opening) {
+  GList* menus = gtk_menu_get_for_attach_widget(GTK_WIDGET(combo_box));
+  if (!menus) return;
+  g_signal_connect_data(
+      menus->data, "event", G_CALLBACK(IgnoreDoubleClick),
+      new OpeningClick(ClickOf(opening)),
+      [](gpointer data, GClosure*) { delete static_cast<OpeningClick*>(data); },
+      static_cast<GConnectFlags>(0));
+}
+
+// On release: an open menu would take the release as a choice.
 gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
                               gpointer column) {
   auto* edited = GTK_TREE_VIEW_COLUMN(column);
@@ -59,6 +115,9 @@ gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
   AllowChanges(selection, FALSE);
   gtk_tree_view_set_cursor(view, path, edited, TRUE);
   AllowChanges(selection, TRUE);
+  if (edited->editable_widget) {
+    IgnoreDoubleClickOn(edited->editable_widget, *release);
+  }
   gtk_tree_path_free(path);
   return TRUE;
 }

@@ -4,7 +4,7 @@
 #include <gtk/gtk.h>
 
 // A click on the column of a row that is one of several selected ones opens
-// the combo box there and leaves the selection as it is. The toolkit by itself
-// does so only on the row at which the selection began, and on any other row
-// would lose the rest of the selection.
+// the combo box there and keeps the selection; the second click of a double
+// click chooses nothing. The toolkit by itself opens the combo box only on the
+// row where the selection began; on any other row it drops the selection.
 void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column);

@@ -19,8 +19,10 @@ void SendInput(const std::string& command) {
   EXPECT_EQ(RunCommand("xdotool " + command).status, 0) << command;
 }
 
+constexpr char kClick[] = " mousedown 1 sleep 0.15 mouseup 1";
+
 std::string ClickAtPlaceOf(const Accessible& node) {
-  return "mousemove " + node.Place() + " mousedown 1 sleep 0.15 mouseup 1";
+  return "mousemove " + node.Place() + kClick;
 }
 
 }  // namespace
@@ -99,6 +101,12 @@ void EndToEndTest::Click(const std::string& name) {
 
 void EndToEndTest::ClickAt(const Accessible& place) {
   SendInput(ClickAtPlaceOf(place));
+}
+
+void EndToEndTest::DoubleClickAt(const Accessible& place,
+                                 int gap_milliseconds) {
+  SendInput(ClickAtPlaceOf(place) + " sleep " +
+            std::to_string(gap_milliseconds / 1000.0) + kClick);
 }
 
 void EndToEndTest::Select(const std::vector<std::string>& rows) {

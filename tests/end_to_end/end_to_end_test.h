@@ -35,6 +35,7 @@ class EndToEndTest : public testing::Test {
   void Click(const std::string& name);
   // By the mouse.
   static void ClickAt(const Accessible& place);
+  static void DoubleClickAt(const Accessible& place, int gap_milliseconds);
   // Clicks on the cells with those names, with Ctrl on all but the first.
   void Select(const std::vector<std::string>& rows);
   void ExpectSelected(const std::string& row);
