@@ -4,10 +4,10 @@
 #include <cstdlib>
 #include <new>
 
-void ExitWhenOutOfMemory() {
-  std::set_new_handler([] {
-    // Standard error has no buffer: this allocates nothing.
-    std::fputs("Out of memory.\n", stderr);
-    std::_Exit(EXIT_FAILURE);
-  });
+void ExitWhenOutOfMemory() { std::set_new_handler(ExitOutOfMemory); }
+
+void ExitOutOfMemory() {
+  // Standard error has no buffer: this allocates nothing.
+  std::fputs("Out of memory.\n", stderr);
+  std::_Exit(EXIT_FAILURE);
 }
