@@ -1,4 +1,4 @@
-// The key/value file, read, written and read again.
+// A configuration file that is read, written and read again.
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -17,7 +17,7 @@ using Entries = std::map<std::string, std::string>;
 
 namespace {
 
-// A file that lives in memory and is reached by a path.
+// A file in memory that has a path.
 class MemoryFile {
  public:
   MemoryFile() : file_(memfd_create("config", MFD_CLOEXEC)) {
@@ -54,7 +54,7 @@ Entries EntriesOf(const ConfigFileManager& config) {
   return entries;
 }
 
-// A written key may begin with what is a byte-order mark in the first line.
+// A key may begin with bytes that are a byte-order mark in the first line.
 bool BeginsWithMark(const Entries& entries) {
   for (const auto& [key, value] : entries) {
     for (const char* mark : {"\xEF\xBB\xBF", "\xFE\xFF", "\xFF\xFE"}) {
@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
   const Entries entries = EntriesOf(config);
   Require(config.UpdateSettingsFile(), "it can be written");
   const Entries again = EntriesOf(ConfigFileManager(file.Path()));
-  // "a=b" and a line feed are four bytes, which is enough to be read.
+  // The shortest file, "a=b" and a line feed, has the four bytes needed.
   Require(again == entries || BeginsWithMark(entries), "all that is written");
   return 0;
 }

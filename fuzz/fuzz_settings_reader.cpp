@@ -1,4 +1,4 @@
-// The reader, given any bytes as a settings image.
+// The settings reader on arbitrary bytes.
 #include <memory>
 
 #include "fuzz/fuzz_target.h"

@@ -1,4 +1,4 @@
-// What has been read, written and read again.
+// An image that is read, written and read again.
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -122,7 +122,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
   const Image second_image = Write(*first);
   const auto second = Read(second_image.data(), second_image.size());
   Require(second && AreEqual(*first, *second), "a read image is written whole");
-  // Reading turns the order within each bucket round; twice turns it back.
+  // Reading reverses the order within each bucket; reading twice restores it.
   const Image third_image = Write(*second);
   const auto third = Read(third_image.data(), third_image.size());
   Require(third && AreEqual(*second, *third), "and again");

@@ -38,7 +38,7 @@ Verdict MeetFault() {
   switch (state.fault.effect) {
     case Effect::kFail:
     case Effect::kFailOnwards:
-      return Verdict::kFail;
+      break;
     case Effect::kShortWrite:
     case Effect::kDiskFull:
       return Verdict::kHalf;
@@ -47,20 +47,23 @@ Verdict MeetFault() {
     case Effect::kKillHalfway:
       return Verdict::kHalfThenEnd;
   }
-  return Verdict::kPass;
+  return Verdict::kFail;
+}
+
+// The calls that fail once the fault has been met.
+unsigned int LaterFailures() {
+  using faults::Effect;
+  if (state.fault.effect == Effect::kFailOnwards) return state.fault.calls;
+  const bool is_full = state.fault.effect == Effect::kDiskFull;
+  return is_full ? faults::kWrite | faults::kMkdir | faults::kCreate : 0U;
 }
 
 Verdict Judge(unsigned int call) {
-  using faults::Effect;
   if (!state.armed) return Verdict::kPass;
-  const bool lasts = state.fault.effect == Effect::kFailOnwards;
-  const bool is_full = state.fault.effect == Effect::kDiskFull && state.met;
-  if (is_full && (call & (faults::kWrite | faults::kMkdir | faults::kCreate))) {
-    return Verdict::kFail;
-  }
-  if (!(call & state.fault.calls)) return Verdict::kPass;
-  if (state.met) return lasts ? Verdict::kFail : Verdict::kPass;
-  return state.calls_left-- == 0 ? MeetFault() : Verdict::kPass;
+  if (state.met)
+    return call & LaterFailures() ? Verdict::kFail : Verdict::kPass;
+  const bool counts = call & state.fault.calls;
+  return counts && state.calls_left-- == 0 ? MeetFault() : Verdict::kPass;
 }
 
 // True when the call must fail; errno is then set.
@@ -151,23 +154,16 @@ ssize_t read(int file, void* bytes, std::size_t size) {
 
 ssize_t write(int file, const void* bytes, std::size_t size) {
   static auto* next = Next<ssize_t(int, const void*, std::size_t)>("write");
-  switch (Judge(faults::kWrite)) {
-    case Verdict::kPass:
-      return next(file, bytes, size);
-    case Verdict::kHalf:
-      if (size > 1) return next(file, bytes, size / 2);
-      break;
-    case Verdict::kHalfThenEnd:
-      (void)next(file, bytes, size / 2);
-      _exit(faults::kKilled);
-    case Verdict::kFail:
-      break;
-  }
-  errno = state.fault.error;
-  return -1;
+  const Verdict verdict = Judge(faults::kWrite);
+  if (verdict == Verdict::kPass) return next(file, bytes, size);
+  const bool is_half = verdict != Verdict::kFail && size > 1;
+  const ssize_t written = is_half ? next(file, bytes, size / 2) : -1;
+  if (verdict == Verdict::kHalfThenEnd) _exit(faults::kKilled);
+  if (!is_half) errno = state.fault.error;
+  return written;
 }
 
-// As on Linux, the descriptor is gone also when closing fails.
+// On Linux the descriptor is closed even when the call fails.
 int close(int file) {
   static auto* next = Next<int(int)>("close");
   const int result = next(file);

@@ -1,13 +1,11 @@
 // Failing system calls and allocations, on demand.
 #pragma once
 
-#include <string>
-
 // A program linked with this calls its functions instead of the C library's.
 // While no fault is armed they only call the C library.
 namespace faults {
 
-// What can fail. Values are bits, so that a fault can count several together.
+// The calls that can fail. The values are bits: a fault can cover several.
 enum Call : unsigned int {
   kOpen = 1 << 0,  // open and openat
   kRead = 1 << 1,
@@ -27,19 +25,19 @@ enum Call : unsigned int {
 };
 
 enum class Effect {
-  kFail,         // that one call fails
-  kFailOnwards,  // that one and all after it
-  kShortWrite,   // it writes half of its bytes
-  kDiskFull,     // it writes half of its bytes; nothing fits after that
-  kKill,         // the process ends in front of it
-  kKillHalfway,  // the process ends when half of its bytes are written
+  kFail,         // the call fails
+  kFailOnwards,  // the call and all later ones fail
+  kShortWrite,   // the call writes half of its bytes
+  kDiskFull,     // the call writes half of its bytes, later ones nothing
+  kKill,         // the process ends before the call
+  kKillHalfway,  // the process ends after half of the bytes
 };
 
 struct Fault {
   const char* name;
   unsigned int calls;
   Effect effect;
-  int error;  // errno of the call that fails
+  int error;  // errno of a call that fails
 };
 
 // A sanitizer brings its own allocator.
@@ -55,7 +53,7 @@ void Arm(const Fault& fault, int n);
 // Ends the injection. True when the fault was met.
 bool Disarm();
 
-// The status with which kKill ends the process.
+// The exit status of a killed process.
 inline constexpr int kKilled = 77;
 
 }  // namespace faults

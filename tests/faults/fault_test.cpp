@@ -91,7 +91,7 @@ int InChild(const Fault& fault, int n, Body body) {
   return WEXITSTATUS(status);
 }
 
-// The parent sets nothing up, so that each child finds the home itself.
+// The parent starts no panel, so that each child looks up the home itself.
 TEST(OutOfMemory, EndsAFirstStartWithOneLineAndUsesNoOtherHome) {
   if (!faults::kAllocationsCanFail) GTEST_SKIP() << "a sanitizer's allocator";
   const TemporaryHome password_home;
@@ -119,7 +119,7 @@ std::string Content(const Snapshot& snapshot, const std::string& path) {
   return found == snapshot.end() ? "nothing" : found->second;
 }
 
-// A path that changed although the operation may not change it, or nothing.
+// A path that changed but may not; empty when there is none.
 std::string ChangedOutside(const Operation& operation, const Snapshot& before,
                            const Snapshot& after) {
   for (const Snapshot* side : {&before, &after}) {
@@ -148,13 +148,13 @@ int CountTorn(const Snapshot& before, const Snapshot& now,
   return torn;
 }
 
-// A home with something of everything in it. Needs a process for each test:
-// the panel finds the home once.
+// A home with every kind of file in it. Each test needs its own process, since
+// a process looks its home up once.
 class Faults : public testing::Test {
  protected:
   Faults();
 
-  // Fresh files, and the panel on them that the operation needs.
+  // Restores the files and starts the panel as the operation needs them.
   void Prepare(const Operation& operation, Panel* panel) const;
   // The files after the operation when nothing fails.
   Snapshot Complete(const Operation& operation) const;
@@ -164,12 +164,12 @@ class Faults : public testing::Test {
             const Snapshot& complete);
   bool End(const Operation& operation, const Fault& fault, int n,
            const Snapshot& complete);
-  // Every operation with every fault at each of its calls in turn.
+  // Runs every operation with every fault at each of its calls.
   void TryAll(std::span<const Fault> faults);
 
  private:
   TemporaryHome home_;
-  // Other programs' files alone, and with all that the panel keeps.
+  // The files of other programs, without and with those of the panel.
   Snapshot around_;
   Snapshot whole_;
   // Many faults leave the same files.
@@ -241,7 +241,7 @@ bool Faults::End(const Operation& operation, const Fault& fault, int n,
   const int status = InChild(fault, n, [&] { operation.run(panel); });
   const Snapshot after = home_.Take();
   if (IsAllocation(fault)) {
-    // A failed malloc inside the C library fails a call, and not the process.
+    // A failed malloc inside the C library only fails that call.
     EXPECT_THAT(status, testing::AnyOf(0, kMet, EXIT_FAILURE));
   } else {
     EXPECT_THAT(status, testing::AnyOf(0, faults::kKilled));

@@ -36,8 +36,7 @@ bool RemoveSite(Panel& panel) {
 
 bool BlockStorageEverywhere(Panel&) {
   StorageSetting limit("defaultklimit", Panel::Master());
-  return limit
-      .setPermissionState(PermissionState::kPermissionStateAlwaysDeny)
+  return limit.setPermissionState(PermissionState::kPermissionStateAlwaysDeny)
       .commit();
 }
 

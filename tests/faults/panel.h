@@ -14,10 +14,10 @@ struct Panel {
   void Start();
 
   bool SetNumber(const char* key, double value, const char* domain);
-  // NaN when none is held.
+  // NaN for a missing number.
   [[nodiscard]] double Number(const char* key, const char* domain);
   [[nodiscard]] std::vector<std::string> Sites();
-  // All defaults and the list of sites are there.
+  // Expects all defaults and the list of sites.
   void ExpectWhole();
 
   static const char* Master();
@@ -26,6 +26,6 @@ struct Panel {
   std::optional<SASM::SettingsManager> manager;
 };
 
-// A panel started now is whole, a site can be added and changed, and is there
-// at the next start.
+// Expects that a new panel is whole, that a site can be added and changed, and
+// that the next start finds it.
 void ExpectUsable();

@@ -35,7 +35,7 @@ class ConfigFile : public testing::Test {
     home_.Write("config", bytes);
     return EntriesOf(ConfigFileManager(path_));
   }
-  // What a later read finds of these entries, set in this order.
+  // Sets these entries in this order, writes the file and reads it again.
   Entries ReadBack(const Entries& entries) {
     home_.Write("config", "");
     ConfigFileManager config(path_);
@@ -132,7 +132,7 @@ TEST_F(ConfigFile, FindsOfUnreadableTextsWhatTheHeaderSays) {
   }
 }
 
-// None of these may wait for another program.
+// Nothing here may block.
 TEST_F(ConfigFile, ReadsOnlyRegularFilesAndCreatesOne) {
   std::filesystem::create_directory(home_ / "directory");
   ASSERT_EQ(mkfifo((home_ / "pipe").c_str(), 0600), 0);

@@ -20,7 +20,7 @@ unsigned int BucketOf(const std::string& key) {
   return static_cast<unsigned int>(sum) % 16;
 }
 
-// The same order by other means: by bucket, then the newest first.
+// The dictionary order from a sorted map: by bucket, then newest first.
 using Model = std::map<std::pair<unsigned int, int>, Entry>;
 
 std::vector<Entry> Walk(const IntMap& map) {
@@ -34,7 +34,6 @@ std::vector<Entry> Walk(const IntMap& map) {
   }
 }
 
-// Up to sizes that are searched by the index.
 TEST(HashMap, AgreesWithAModelOverRandomOperations) {
   const unsigned int seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
@@ -42,7 +41,7 @@ TEST(HashMap, AgreesWithAModelOverRandomOperations) {
   IntMap map;
   Model model;
   for (int step = 0; step < 20000; ++step) {
-    // So many keys that the map is searched now by the index, now by buckets.
+    // Enough keys for maps with the index and maps without it.
     std::string key;
     for (auto n = random() % 5; n > 0; --n) key += "ab\xC3 qr"[random() % 6];
     const auto found = map.find(key.c_str());

@@ -103,13 +103,13 @@ TEST(SettingsReader, ReadsEntriesUpToTheDamage) {
   }
 }
 
-// The sanitizers watch these; the values are read once more while described.
+// For the sanitizers: Describe reads every value again.
 TEST(SettingsReader, SurvivesEveryTruncationAndEveryFlippedBit) {
   const Bytes whole = File("settings", Sample());
   testing::internal::CaptureStderr();
   for (std::size_t size = 0; size < whole.size(); ++size) {
     EXPECT_EQ(Describe(whole.substr(0, size)), "rejected") << size;
-    // With a declared length that lets it pass.
+    // A declared length of 0 lets the headers pass.
     const Bytes body = whole.substr(6, size < 6 ? 0 : size - 6);
     (void)Describe(Hex("00 80") + body);
   }
