@@ -182,7 +182,7 @@ class Inspection {
     const std::unique_ptr<SimpleString> name(read_name);
     (void)TakeFault();
     if (is_rejected_) return;
-    listing_->Name(name && name->HasText() ? name->c_str() : "");
+    listing_->Name(name->c_str());
     while (!is_rejected_ && !reader_.AtEnd()) ListEntry();
   }
 
@@ -202,10 +202,7 @@ class Inspection {
 
   // The fault found since the last call. Has no text when there was none.
   SettingsReader::Fault TakeFault() {
-    SettingsReader::Fault fault = reader_.TakeFault();
-    if (is_rejected_ && !fault.what) {
-      fault = {"Memory is short.", reader_.Position()};
-    }
+    const SettingsReader::Fault fault = reader_.TakeFault();
     if (is_rejected_ || !damage_.what) damage_ = fault;
     return fault;
   }

@@ -14,7 +14,7 @@ ReadResult ReadImage(const SimpleString& path, FileImage* image) {
   errno = 0;
   if (SASM::ReadFileImage(path, image)) return ReadResult::kDone;
   if (errno == ENOENT || errno == ENOTDIR) return ReadResult::kMissing;
-  PrintError(path.HasText() ? path.c_str() : "",
+  PrintError(path.c_str(),
              errno ? std::strerror(errno) : "not a settings file");
   return ReadResult::kFailed;
 }
@@ -31,11 +31,7 @@ SettingsOnDisk ReadSettings(const SimpleString& path) {
   settings.dictionary.reset(reader.GetNewSettingsData(&name));
   delete name;
   const SettingsReader::Fault fault = reader.TakeFault();
-  settings.is_intact = settings.dictionary && !fault.what;
-  if (fault.what) {
-    PrintDamage(path.c_str(), fault.what, fault.offset);
-  } else if (!settings.dictionary) {
-    PrintError(path.c_str(), std::strerror(ENOMEM));
-  }
+  settings.is_intact = !fault.what;
+  if (fault.what) PrintDamage(path.c_str(), fault.what, fault.offset);
   return settings;
 }
