@@ -11,6 +11,7 @@
 
 #include "platform/directory_stream.h"
 #include "platform/shell_word.h"
+#include "plugin/trusted_file.h"
 
 using SASM::SimpleString;
 
@@ -24,8 +25,8 @@ constexpr const char* kDirectories[] = {
     "/usr/local/lib32/netscape/plugins", "/usr/local/lib64/netscape/plugins",
     "/usr/lib/corvaneplugin-installer",  "~/.mozilla/plugins",
 };
-// The shell or the command would say that there is no command, or no database
-// of its own: neither is a failure to the user.
+// Without the command or its database, the shell or the command prints an
+// error that is none to the user.
 constexpr char kLocateCommand[] = "locate corvaneplayer.so 2>/dev/null";
 constexpr int kLongestLine = 1023;
 
@@ -87,8 +88,9 @@ void* LoadFromLocate() {
   char line[kLongestLine + 1];
   if (!pipe || !std::fgets(line, sizeof line, pipe.get())) return nullptr;
   line[std::strcspn(line, "\n")] = '\0';
-  // The loader would look a name without a directory up in places of its own.
-  return std::strchr(line, '/') ? LoadLibrary(line) : nullptr;
+  // The database lists the files of all users, whoever made them.
+  const std::string path = TrustedFile(line);
+  return path.empty() ? nullptr : LoadLibrary(path.c_str());
 }
 
 }  // namespace

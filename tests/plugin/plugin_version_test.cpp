@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr char kGood[] = "10.1 r53";
 constexpr char kOther[] = "11.2";
+constexpr uid_t kOtherUser = 1;
 
 // A machine with no plug-in but those that a test installs, and with no
 // command "locate" but the test's.
@@ -25,6 +27,7 @@ class PluginVersion : public testing::Test {
     fs::create_directory(home_ / "bin");
     setenv("PATH", (home_ / "bin").c_str(), 1);
     unsetenv("MOZ_PLUGIN_PATH");
+    umask(022);
   }
   ~PluginVersion() override { setenv("PATH", path_.c_str(), 1); }
 
@@ -119,33 +122,57 @@ TEST_F(PluginVersion, IsLookedForInAWordThatRunsNothing) {
   EXPECT_FALSE(home_.Has("ran"));
 }
 
-TEST_F(PluginVersion, TakesAFileFromTheFirstLineThatLocatePrints) {
-  Install("good", "corvaneplayer.so");
+TEST_F(PluginVersion, TakesATrustedFileFromTheFirstLineThatLocatePrints) {
+  Install("good", "folder/inner/library");
+  fs::permissions(home_ / "folder/inner/library", fs::perms{0644});
   home_.Write("libc.so.6", "found by the loader, were it asked");
-  const std::string library = home_ / "corvaneplayer.so";
-  const std::string long_path =
-      home_.Path().string() + std::string(1024, '/') + "corvaneplayer.so";
-  const std::pair<std::string, const char*> commands[] = {
+  fs::create_symlink("folder/inner/library", home_ / "link");
+  const std::string library = home_ / "folder/inner/library";
+  const std::string link = home_ / "link";
+  const struct {
+    std::string command;
+    const char* version;
+    // What has which mode and owner; the user alone may write to the rest.
+    const char* place = "libc.so.6";
+    unsigned int mode = 0644;
+    uid_t owner = geteuid();
+  } cases[] = {
       {"test \"$#$1\" = 1corvaneplayer.so && echo " + library, kGood},
       {"printf %s " + library, kGood},
+      {"echo " + link, kGood},
       {"echo /missing; echo " + library, nullptr},
       {"echo no database >&2; exit 1", nullptr},
       {"echo ~", nullptr},
       {"echo libc.so.6", nullptr},
-      {"echo " + long_path, nullptr},
+      {"echo ./link", nullptr},
+      {"echo " + home_ / std::string(1024, '/') + "link", nullptr},
       {"while echo " + library + "; do :; done", kGood},
+      {"echo " + library, nullptr, "folder/inner/library", 0664},
+      {"echo " + library, nullptr, "folder/inner/library", 0646},
+      {"echo " + library, nullptr, "folder/inner", 0775},
+      {"echo " + link, nullptr, "folder/inner", 0757},
+      {"echo " + library, nullptr, "folder", 0777},
+      {"echo " + library, kGood, "folder", 01777},
+      {"echo " + library, nullptr, "folder/inner/library", 0644, kOtherUser},
+      {"echo " + library, nullptr, "folder", 0755, kOtherUser},
   };
   fs::current_path(home_.Path());
   const std::ptrdiff_t descriptors = CountDescriptors();
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  for (const auto& [command, version] : commands) {
-    SCOPED_TRACE(command);
-    MakeLocate(command);
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.command + ", " + c.place);
+    // Only root may give files away.
+    if (chown(c.place, c.owner, getegid()) != 0) continue;
+    MakeLocate(c.command);
+    const fs::perms former = fs::status(c.place).permissions();
+    fs::permissions(c.place, fs::perms{c.mode});
     const char* found = nullptr;
     EXPECT_EQ(FindPluginVersion(&found) == PluginState::kNotInstalled,
-              version == nullptr);
-    EXPECT_STREQ(found, version);
+              c.version == nullptr);
+    EXPECT_STREQ(found, c.version);
+    fs::permissions(c.place, former);
+    EXPECT_EQ(chown(c.place, geteuid(), getegid()), 0);
   }
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
