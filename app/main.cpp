@@ -3,9 +3,11 @@
 
 #include "app/command_line.h"
 #include "app/start_up.h"
+#include "platform/standard_streams.h"
 #include "settings/out_of_memory.h"
 
 int main(int argc, char** argv) {
+  OpenStandardStreams();
   ExitWhenOutOfMemory();
   // Without a display --help still answers, and everything else is told by
   // the command line's own message.

@@ -5,6 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/error_messages.h"
+#include "platform/standard_streams.h"
 #include "settings/out_of_memory.h"
 
 namespace {
@@ -41,6 +42,7 @@ bool CloseOutput() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  OpenStandardStreams();
   ExitWhenOutOfMemory();
   CommandLine command;
   const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));

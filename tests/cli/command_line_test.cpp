@@ -22,9 +22,17 @@ TEST_F(CommandLine, IsRefusedWhenItIsWrong) {
 }
 
 TEST_F(CommandLine, FailsWhenItsOutputIsLost) {
-  const ProgramRun run = Run("show >/dev/full");
-  EXPECT_EQ(run.status, 1);
-  EXPECT_THAT(run.errors, HasSubstr("No space left on device"));
+  const struct {
+    const char* arguments;
+    const char* error;
+  } cases[] = {{"show >/dev/full", "No space left on device"},
+               {"show >&- <&-", "Bad file descriptor"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.arguments);
+    const ProgramRun run = Run(c.arguments);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.errors, HasSubstr(c.error));
+  }
 }
 
 // Installs a stand-in for the plug-in, or none.

@@ -150,4 +150,6 @@ TEST_F(ProgramTest, StartsOnDamagedFiles) {
     ExpectStored(kMaster, "defaultklimit", "0");
     Close("(SMSettingsReader: [^\n]*\n)*");
   }
+  home_.Write(PanelHome::SettingsFileOf("a.example"), "");
+  Start("2>&-");  // where messages could go into the display's connection
 }

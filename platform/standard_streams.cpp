@@ -1,0 +1,14 @@
+#include "platform/standard_streams.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+void OpenStandardStreams() {
+  for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+    if (fcntl(stream, F_GETFD) >= 0) continue;
+    // The lowest free descriptor is this one.
+    if (open("/dev/null", O_RDONLY) != stream) std::_Exit(EXIT_FAILURE);
+  }
+}
