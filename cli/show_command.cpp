@@ -23,11 +23,6 @@ constexpr int kWebsiteTitle = 61000;
 constexpr int kStorageUsedTitle = 61004;
 constexpr int kLocationsTitle = 81003;
 
-struct SiteRow {
-  const SimpleString* name;
-  SiteSettings settings;
-};
-
 std::string TextOf(StringManager* strings, int id) {
   const char* text = strings->GetString(id);
   return text ? text : "";
@@ -46,31 +41,29 @@ std::string UsedText(std::uint64_t bytes) {
 }
 
 // The state, followed for allowed storage by the limit.
-std::string StateText(const PermissionStates& states, PermissionKind permission,
-                      double storage_limit_kb, StringManager* strings) {
-  std::string text =
-      TextOf(strings, FindChoice(states[permission])->site_text_id);
-  if (permission != kStorage) return text;
-  if (storage_limit_kb > 0) {
-    text += " (" + SizeText(storage_limit_kb * 1024) + ")";
-  } else if (storage_limit_kb == kUnlimited) {
-    text += " (∞)";
-  }
+std::string StateText(const PermissionSettings& settings, PermissionKind kind,
+                      StringManager* strings) {
+  const PermissionChoice* choice = FindChoice(settings.states[kind]);
+  std::string text = TextOf(strings, choice->site_text_id);
+  if (kind != kStorage) return text;
+  const double limit_kb = settings.storage_limit_kb;
+  if (limit_kb > 0) text += " (" + SizeText(limit_kb * 1024) + ")";
+  if (limit_kb == kUnlimited) text += " (∞)";
   return text;
 }
 
-void PrintGlobal(const GlobalSettings& global, StringManager* strings) {
+void PrintGlobal(const PermissionSettings& global, StringManager* strings) {
   std::puts(TextOf(strings, kPanelTitle).c_str());
   TextTable table;
   for (const Permission& permission : kPermissions) {
     table.Add({"  " + TextOf(strings, permission.global_title_id),
-               StateText(global.states, permission.kind,
-                         global.storage_limit_kb, strings)});
+               StateText(global, permission.kind, strings)});
   }
   table.Print();
 }
 
-void PrintSites(const std::vector<SiteRow>& sites, StringManager* strings) {
+void PrintSites(const std::vector<SiteSettings>& sites,
+                StringManager* strings) {
   TextTable table;
   TextTable::Row head = {TextOf(strings, kWebsiteTitle),
                          TextOf(strings, kStorageUsedTitle)};
@@ -78,12 +71,11 @@ void PrintSites(const std::vector<SiteRow>& sites, StringManager* strings) {
     head.push_back(TextOf(strings, permission.site_title_id));
   }
   table.Add(std::move(head));
-  for (const SiteRow& site : sites) {
-    TextTable::Row row = {"  " + Printable(site.name->c_str()),
-                          UsedText(site.settings.storage_used_bytes)};
+  for (const SiteSettings& site : sites) {
+    TextTable::Row row = {"  " + Printable(site.name),
+                          UsedText(site.storage_used_bytes)};
     for (const Permission& permission : kPermissions) {
-      row.push_back(StateText(site.settings.states, permission.kind,
-                              site.settings.storage_limit_kb, strings));
+      row.push_back(StateText(site.permissions, permission.kind, strings));
     }
     table.Add(std::move(row));
   }
@@ -98,34 +90,33 @@ void PrintLocations(const SDIVector* locations, StringManager* strings) {
   }
 }
 
-void WriteStates(const PermissionStates& states, double storage_limit_kb,
-                 JsonWriter* json) {
+void WritePermissions(const PermissionSettings& settings, JsonWriter* json) {
   for (const Permission& permission : kPermissions) {
-    const PermissionState state = states[permission.kind];
+    const PermissionState state = settings.states[permission.kind];
     json->Key(permission.word).Text(FindChoice(state)->word);
   }
-  json->Key("storage_limit_kb").Number(storage_limit_kb);
+  json->Key("storage_limit_kb").Number(settings.storage_limit_kb);
 }
 
-void WriteSite(const SiteRow& site, JsonWriter* json) {
+void WriteSite(const SiteSettings& site, JsonWriter* json) {
   json->BeginObject();
-  json->Key("site").Text(site.name->c_str());
-  WriteStates(site.settings.states, site.settings.storage_limit_kb, json);
-  json->Key("storage_used_bytes").Integer(site.settings.storage_used_bytes);
-  json->Key("damaged").Boolean(!site.settings.is_intact);
+  json->Key("site").Text(site.name);
+  WritePermissions(site.permissions, json);
+  json->Key("storage_used_bytes").Integer(site.storage_used_bytes);
+  json->Key("damaged").Boolean(!site.is_intact);
   json->EndObject();
 }
 
-void WriteStore(const StoreView& store, const std::vector<SiteRow>& sites) {
+void WriteStore(const StoreView& store,
+                const std::vector<SiteSettings>& sites) {
   JsonWriter json;
   json.BeginObject();
-  const GlobalSettings global = store.Global();
   json.Key("global").BeginObject();
-  WriteStates(global.states, global.storage_limit_kb, &json);
+  WritePermissions(store.Global(), &json);
   json.Key("damaged").Boolean(!store.IsIntact());
   json.EndObject();
   json.Key("sites").BeginArray();
-  for (const SiteRow& site : sites) WriteSite(site, &json);
+  for (const SiteSettings& site : sites) WriteSite(site, &json);
   json.EndArray();
   json.Key("trusted_locations").BeginArray();
   const SDIVector* locations = store.TrustedLocations();
@@ -137,32 +128,33 @@ void WriteStore(const StoreView& store, const std::vector<SiteRow>& sites) {
   JsonWriter::EndLine();
 }
 
-bool Passes(const PermissionStates& states, const CommandLine& command) {
-  return std::ranges::all_of(command.filters,
-                             [&states](const PermissionFilter& filter) {
-                               return states[filter.permission] == filter.state;
-                             });
+bool Passes(const SiteSettings& site, const CommandLine& command) {
+  return std::ranges::all_of(
+      command.filters, [&site](const PermissionFilter& filter) {
+        return site.permissions.states[filter.permission] == filter.state;
+      });
 }
 
 // The sites that the panel would show and the user asked for. When one is
 // damaged or unknown, reports it and sets `*succeeded` to false.
-std::vector<SiteRow> FindSites(const StoreView& store,
-                               const CommandLine& command, bool* succeeded) {
-  std::vector<SiteRow> sites;
+std::vector<SiteSettings> FindSites(const StoreView& store,
+                                    const CommandLine& command,
+                                    bool* succeeded) {
+  std::vector<SiteSettings> sites;
   std::vector<bool> is_found(command.names.size());
   const SDIVector* listed = store.ListedSites();
   for (unsigned int i = 0; listed && i < listed->count; ++i) {
     const SimpleString& name = listed->At(i)->name;
-    if (!store.IsKnown(name)) continue;
+    if (!store.HasSettings(name)) continue;
     bool is_wanted = command.names.empty();
     for (std::size_t k = 0; k < command.names.size(); ++k) {
       if (!(name == command.names[k])) continue;
       is_wanted = is_found[k] = true;
     }
     if (!is_wanted) continue;
-    const SiteSettings settings = store.Read(name);
-    *succeeded = *succeeded && settings.is_intact;
-    if (Passes(settings.states, command)) sites.push_back({&name, settings});
+    const SiteSettings site = store.Read(name);
+    *succeeded = *succeeded && site.is_intact;
+    if (Passes(site, command)) sites.push_back(site);
   }
   for (std::size_t k = 0; k < command.names.size(); ++k) {
     if (is_found[k]) continue;
@@ -178,7 +170,7 @@ bool RunShow(const CommandLine& command) {
   const LinuxFileManager files;
   const StoreView store(files);
   bool succeeded = store.IsIntact();
-  const std::vector<SiteRow> sites = FindSites(store, command, &succeeded);
+  const std::vector<SiteSettings> sites = FindSites(store, command, &succeeded);
   if (command.json) {
     WriteStore(store, sites);
     return succeeded;

@@ -25,8 +25,8 @@ StoreView::StoreView(const SASM::FileManager& files)
                                     master_.get());
 }
 
-GlobalSettings StoreView::Global() const {
-  GlobalSettings global;
+PermissionSettings StoreView::Global() const {
+  PermissionSettings global;
   for (const Permission& permission : kPermissions) {
     global.states[permission.kind] = GlobalState(permission, master_.get());
   }
@@ -42,19 +42,21 @@ const SDIVector* StoreView::ListedSites() const {
   return SASM::ArrayOrNull(FindSetting(SASM::kDomains, *master_));
 }
 
-bool StoreView::IsKnown(const SimpleString& site) const {
+bool StoreView::HasSettings(const SimpleString& site) const {
   return SASM::HasSettingsFile(site, layout_, files_);
 }
 
-SiteSettings StoreView::Read(const SimpleString& name) const {
-  const SettingsOnDisk on_disk = ReadSettings(layout_.SettingsFileOf(name));
-  SiteSettings site;
+SiteSettings StoreView::Read(const SimpleString& site) const {
+  const SettingsOnDisk on_disk = ReadSettings(layout_.SettingsFileOf(site));
+  SiteSettings settings;
+  settings.name = site.c_str();
+  settings.is_intact = on_disk.is_intact;
   for (const Permission& permission : kPermissions) {
-    site.states[permission.kind] =
+    settings.permissions.states[permission.kind] =
         EffectiveState(permission, master_.get(), on_disk.dictionary.get());
   }
-  site.storage_limit_kb = StoredLimitKb(on_disk.dictionary.get());
-  site.storage_used_bytes = SASM::LocalStorageSize(name, layout_, files_);
-  site.is_intact = on_disk.is_intact;
-  return site;
+  settings.permissions.storage_limit_kb =
+      StoredLimitKb(on_disk.dictionary.get());
+  settings.storage_used_bytes = SASM::LocalStorageSize(site, layout_, files_);
+  return settings;
 }

@@ -8,17 +8,17 @@
 #include "model/permissions.h"
 #include "store/store_layout.h"
 
-// A state for each of kPermissions.
-using PermissionStates = std::array<PermissionState, kPermissionCount>;
-
-struct GlobalSettings {
-  PermissionStates states = {};
+// The permissions of a site, or those of all sites.
+struct PermissionSettings {
+  // By PermissionKind.
+  std::array<PermissionState, kPermissionCount> states = {};
   double storage_limit_kb = 0;
 };
 
 struct SiteSettings {
-  PermissionStates states = {};
-  double storage_limit_kb = 0;
+  // Borrowed from the list of sites.
+  const char* name = nullptr;
+  PermissionSettings permissions;
   std::uint64_t storage_used_bytes = 0;
   bool is_intact = false;
 };
@@ -35,15 +35,15 @@ class StoreView {
   // settings exists and is damaged or unreadable.
   [[nodiscard]] bool IsIntact() const { return is_intact_; }
 
-  [[nodiscard]] GlobalSettings Global() const;
+  [[nodiscard]] PermissionSettings Global() const;
   // Lists whose elements are named by a path or a site. Borrowed; null when
   // nothing is stored.
   [[nodiscard]] const SASM::SDIVector* TrustedLocations() const;
   [[nodiscard]] const SASM::SDIVector* ListedSites() const;
 
-  // True when the panel would show the listed site: it has a settings file.
-  [[nodiscard]] bool IsKnown(const SASM::SimpleString& site) const;
-  [[nodiscard]] SiteSettings Read(const SASM::SimpleString& name) const;
+  // The panel shows only listed sites that have settings.
+  [[nodiscard]] bool HasSettings(const SASM::SimpleString& site) const;
+  [[nodiscard]] SiteSettings Read(const SASM::SimpleString& site) const;
 
  private:
   const SASM::FileManager& files_;
