@@ -120,8 +120,9 @@ class HashMap {
 
   // The sentinel when the key is absent.
   Node* FindNode(const K& key, unsigned int hash) const {
-    if (!index_.empty()) [[unlikely]]
+    if (!index_.empty()) [[unlikely]] {
       return FindInIndex(key);
+    }
     const unsigned int bucket = hash % kBucketCount;
     for (Node* node = buckets_[bucket]; node && node->bucket == bucket;
          node = node->next) {

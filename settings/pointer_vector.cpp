@@ -22,12 +22,13 @@ bool PointerVector::adoptElement(void* element) {
 }
 
 bool PointerVector::Grow() {
-  void** grown = new (std::nothrow) void*[capacity * 2];
+  const unsigned int grown_capacity = capacity * 2;
+  void** grown = new (std::nothrow) void*[grown_capacity];
   if (!grown) return false;
   std::copy_n(elements, count, grown);
   delete[] elements;
   elements = grown;
-  capacity *= 2;
+  capacity = grown_capacity;
   return true;
 }
 

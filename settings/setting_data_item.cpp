@@ -5,30 +5,32 @@
 
 namespace SASM {
 
-SettingDataItem::SettingDataItem(const SimpleString& name,
-                                 _SettingsDataType type, const void* data)
-    : name(name), type(type), value{0} {
+SettingDataItem::SettingDataItem(const SimpleString& item_name,
+                                 _SettingsDataType item_type, const void* data)
+    : name(item_name), type(item_type), value{0} {
   CopyValue(type, data);
 }
 
 SettingDataItem::SettingDataItem(const SettingDataItem& other)
     : SettingDataItem(other.name, other.type, other.Data()) {}
 
-SettingDataItem::SettingDataItem(SimpleString&& name, double number)
-    : name(std::move(name)), type(kSettingsDataTypeDouble), value{number} {}
+SettingDataItem::SettingDataItem(SimpleString&& item_name, double number)
+    : name(std::move(item_name)),
+      type(kSettingsDataTypeDouble),
+      value{number} {}
 
-SettingDataItem::SettingDataItem(SimpleString&& name, bool boolean)
-    : name(std::move(name)), type(kSettingsDataTypeBool), value{0} {
+SettingDataItem::SettingDataItem(SimpleString&& item_name, bool boolean)
+    : name(std::move(item_name)), type(kSettingsDataTypeBool), value{0} {
   value.boolean = boolean;
 }
 
-SettingDataItem::SettingDataItem(SimpleString&& name, SimpleString* string)
-    : name(std::move(name)), type(kSettingsDataTypeString), value{0} {
+SettingDataItem::SettingDataItem(SimpleString&& item_name, SimpleString* string)
+    : name(std::move(item_name)), type(kSettingsDataTypeString), value{0} {
   value.string = string;
 }
 
-SettingDataItem::SettingDataItem(SimpleString&& name, SDIVector* array)
-    : name(std::move(name)), type(kSettingsDataTypeArray), value{0} {
+SettingDataItem::SettingDataItem(SimpleString&& item_name, SDIVector* array)
+    : name(std::move(item_name)), type(kSettingsDataTypeArray), value{0} {
   value.array = array;
 }
 

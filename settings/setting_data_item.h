@@ -26,7 +26,7 @@ class SettingDataItem {
   // An empty name and the number 0.
   SettingDataItem() : type(kSettingsDataTypeDouble), value{0} {}
   // Copies the value at `data`: see SetData.
-  SettingDataItem(const SimpleString& name, _SettingsDataType type,
+  SettingDataItem(const SimpleString& item_name, _SettingsDataType item_type,
                   const void* data);
   SettingDataItem(const SettingDataItem& other);
   // Leaves `other` an empty name and the number 0.
@@ -38,11 +38,11 @@ class SettingDataItem {
   }
   ~SettingDataItem() { ReleaseValue(); }
 
-  SettingDataItem(SimpleString&& name, double number);
-  SettingDataItem(SimpleString&& name, bool boolean);
+  SettingDataItem(SimpleString&& item_name, double number);
+  SettingDataItem(SimpleString&& item_name, bool boolean);
   // Take over `string` or `array`, which is not null.
-  SettingDataItem(SimpleString&& name, SimpleString* string);
-  SettingDataItem(SimpleString&& name, SDIVector* array);
+  SettingDataItem(SimpleString&& item_name, SimpleString* string);
+  SettingDataItem(SimpleString&& item_name, SDIVector* array);
 
   // The result is a copy of the item after the assignment, not a reference.
   SettingDataItem operator=(const SettingDataItem& other);  // NOLINT
@@ -53,9 +53,9 @@ class SettingDataItem {
   }
 
   // Replaces the value by a copy of the one at `data`: a double, a bool, a
-  // SimpleString or an SDIVector, according to `type`. For an unknown type
-  // code `data` is not read. `type` is the item's own and does not change.
-  void SetData(_SettingsDataType type, const void* data);
+  // SimpleString or an SDIVector, according to `data_type`, which is the item's
+  // own type. For an unknown type code `data` is not read.
+  void SetData(_SettingsDataType data_type, const void* data);
 
   // To go with the last caller: always true.
   [[nodiscard]] bool IsWhole() const { return true; }

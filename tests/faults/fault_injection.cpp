@@ -60,8 +60,9 @@ unsigned int LaterFailures() {
 
 Verdict Judge(unsigned int call) {
   if (!state.armed) return Verdict::kPass;
-  if (state.met)
+  if (state.met) {
     return call & LaterFailures() ? Verdict::kFail : Verdict::kPass;
+  }
   const bool counts = call & state.fault.calls;
   return counts && state.calls_left-- == 0 ? MeetFault() : Verdict::kPass;
 }
