@@ -150,6 +150,6 @@ TEST_F(ProgramTest, StartsOnDamagedFiles) {
     ExpectStored(kMaster, "defaultklimit", "0");
     Close("(SMSettingsReader: [^\n]*\n)*");
   }
-  home_.Write(PanelHome::SettingsFileOf("a.example"), "");
+  home_.Write(PanelHome::MasterFile(), "\xff");
   Start("2>&-");  // where messages could go into the display's connection
 }
