@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "cli/command_line.h"
-#include "cli/plain_text.h"
+#include "strings/printable_text.h"
 
 void PrintError(const char* name, const char* message) {
   std::fprintf(stderr, "%s: %s: %s\n", kProgramName, Printable(name).c_str(),

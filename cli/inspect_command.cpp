@@ -13,6 +13,7 @@
 #include "cli/plain_text.h"
 #include "cli/settings_source.h"
 #include "settings/settings_reader.h"
+#include "strings/printable_text.h"
 
 using SASM::SettingDataItem;
 using SASM::SimpleString;

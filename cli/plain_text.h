@@ -5,11 +5,6 @@
 #include <string_view>
 #include <vector>
 
-// The text with each byte of an invisible character as "\xNN": control
-// characters, characters that change the direction of writing, and bytes that
-// are not UTF-8. A backslash is doubled.
-[[nodiscard]] std::string Printable(std::string_view bytes);
-
 // The shortest decimal that reads back as the same number; "nan", "inf" or
 // "-inf" for others.
 [[nodiscard]] std::string Decimal(double number);

@@ -10,6 +10,7 @@
 #include "cli/store_view.h"
 #include "model/storage_setting.h"
 #include "platform/linux_file_manager.h"
+#include "strings/printable_text.h"
 #include "strings/string_manager.h"
 
 using SASM::SDIVector;

@@ -1,9 +1,9 @@
 #include <string>
 
 #include "cli/commands.h"
-#include "cli/plain_text.h"
 #include "plugin/plugin_version.h"
 #include "strings/placeholder.h"
+#include "strings/printable_text.h"
 #include "strings/string_manager.h"
 
 namespace {

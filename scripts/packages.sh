@@ -7,6 +7,7 @@ build_packages=(
   cmake
   g++
   libgtk2.0-dev
+  libunistring-dev
   ninja-build
   pkg-config
 )

@@ -1,0 +1,14 @@
+// Bytes of files as text that is safe to show.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The text with every byte that is not visible as "\xNN": invisible
+// characters, and bytes that are not UTF-8. A backslash is doubled. Ends with
+// an ellipsis where it would exceed `longest` characters.
+[[nodiscard]] std::string Printable(std::string_view bytes,
+                                    std::size_t longest = std::string::npos);
+
+// The columns that a printable text takes in a terminal.
+[[nodiscard]] int DisplayWidth(std::string_view text);

@@ -1,0 +1,41 @@
+#include "strings/printable_text.h"
+
+#include <gtest/gtest.h>
+
+TEST(Printable, LeavesNothingInvisible) {
+  const struct {
+    std::string bytes;
+    const char* text;
+  } cases[] = {
+      {"bücher 日本 😀", "bücher 日本 😀"},
+      {"a\\b", "a\\\\b"},
+      {"\x1B[2J\r\n\t\x7F", "\\x1B[2J\\x0D\\x0A\\x09\\x7F"},
+      {"\xC2\x9B", "\\xC2\\x9B"},  // control sequence, 8 bits
+      {"a\u202Egpj.exe", "a\\xE2\\x80\\xAEgpj.exe"},  // right to left
+      {"\u200B\uFEFF", "\\xE2\\x80\\x8B\\xEF\\xBB\\xBF"},
+      {"\u00AD\u3164\u2029", "\\xC2\\xAD\\xE3\\x85\\xA4\\xE2\\x80\\xA9"},
+      {"\U000E0041\u2066", "\\xF3\\xA0\\x81\\x81\\xE2\\x81\\xA6"},
+      {"\xFF\xC0\x80", "\\xFF\\xC0\\x80"},
+      {"\xED\xA0\x80", "\\xED\\xA0\\x80"},  // half a surrogate pair
+      {"\xE6\x97", "\\xE6\\x97"},           // cut short
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    EXPECT_EQ(Printable(c.bytes), c.text);
+  }
+}
+
+TEST(Printable, EndsAtTheLimit) {
+  const struct {
+    const char* bytes;
+    std::size_t longest;
+    const char* text;
+  } cases[] = {{"日本", 2, "日本"},
+               {"日本語", 2, "日本…"},
+               {"a\t", 5, "a\\x09"},
+               {"a\t", 4, "a…"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    EXPECT_EQ(Printable(c.bytes, c.longest), c.text);
+  }
+}
