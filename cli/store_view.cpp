@@ -20,8 +20,7 @@ StoreView::StoreView(const SASM::FileManager& files)
     master_ = std::move(master.dictionary);
   }
   if (!master_) master_ = std::make_unique<SettingsDictionary>();
-  // A default that could not be inserted reads as a missing setting.
-  (void)SASM::InsertMissingDefaults(SASM::DefaultMasterSettings(), *master_,
+  SASM::InsertMissingDefaults(SASM::DefaultMasterSettings(), *master_,
                                     master_.get());
 }
 

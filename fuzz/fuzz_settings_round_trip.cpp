@@ -42,7 +42,7 @@ class NoFileManager : public SASM::FileManager {
   }
   SortableStringVector* CreateNewListOfDirectoryContents(
       const SimpleString&) const override {
-    return nullptr;
+    return new SortableStringVector;
   }
 
  private:

@@ -4,8 +4,14 @@
 #include <dirent.h>
 
 #include <memory>
+#include <string_view>
 
 #include "platform/file_descriptor.h"
+
+// True for "." and "..", which every directory lists.
+[[nodiscard]] constexpr bool IsSelfOrParent(std::string_view name) {
+  return name == "." || name == "..";
+}
 
 struct CloseDirectory {
   void operator()(DIR* directory) const { (void)closedir(directory); }

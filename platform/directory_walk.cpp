@@ -1,167 +1,110 @@
 #include "platform/directory_walk.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <cerrno>
-#include <cstring>
-#include <new>
+#include <string_view>
 #include <utility>
 
-using SASM::SimpleString;
+#include "platform/directory_stream.h"
 
 namespace {
 
 // Directories kept open at once. A tree this deep is walked without ever
 // opening a directory twice.
-constexpr unsigned int kMostOpenDirectories = 512;
+constexpr std::size_t kMostOpenDirectories = 512;
 
-bool IsSelfOrParent(const char* name) {
-  return name[0] == '.' && (!name[1] || (name[1] == '.' && !name[2]));
-}
-
-bool Identify(int descriptor, FileIdentity* identity) {
-  struct stat info;
-  if (fstat(descriptor, &info) != 0) return false;
-  *identity = {info.st_dev, info.st_ino};
-  return true;
-}
-
-bool IsDirectory(const FileDescriptor& directory,
-                 const FileIdentity& expected) {
+// A directory that waits to be entered.
+struct Subdirectory {
+  std::string name;
   FileIdentity identity;
-  return directory.IsOpen() && Identify(directory.Get(), &identity) &&
-         identity == expected;
+};
+
+FileIdentity IdentityOf(const FileDescriptor& file) {
+  struct stat info;
+  if (!file.IsOpen() || fstat(file.Get(), &info) != 0) return {};
+  return {info.st_dev, info.st_ino};
 }
 
-// Subdirectories that wait, in one block of memory: each a Subdirectory, its
-// name and a zero.
-template <typename Record>
-class Queue {
- public:
-  Queue() = default;
-  Queue(const Queue&) = delete;
-  Queue& operator=(const Queue&) = delete;
-  ~Queue() { delete[] bytes_; }
-
-  [[nodiscard]] bool Append(const Record& record, const char* name) {
-    const std::size_t name_size = std::strlen(name) + 1;
-    const std::size_t needed = size_ + sizeof record + name_size;
-    if (needed > capacity_ && !Grow(needed * 2)) return false;
-    std::memcpy(bytes_ + size_, &record, sizeof record);
-    std::memcpy(bytes_ + size_ + sizeof record, name, name_size);
-    size_ = needed;
-    return true;
-  }
-
-  // Null when nothing waits. The name lives as long as the queue.
-  const char* TakeNext(Record* record) {
-    if (next_ == size_) return nullptr;
-    std::memcpy(record, bytes_ + next_, sizeof *record);
-    const char* name = bytes_ + next_ + sizeof *record;
-    next_ += sizeof *record + std::strlen(name) + 1;
-    return name;
-  }
-
-  void DropAll() { next_ = size_; }
-
- private:
-  bool Grow(std::size_t capacity) {
-    char* grown = new (std::nothrow) char[capacity];
-    if (!grown) return false;
-    if (size_) std::memcpy(grown, bytes_, size_);
-    delete[] bytes_;
-    bytes_ = grown;
-    capacity_ = capacity;
-    return true;
-  }
-
-  char* bytes_ = nullptr;
-  std::size_t size_ = 0;
-  std::size_t capacity_ = 0;
-  std::size_t next_ = 0;
-};
+FileDescriptor OpenDirectory(int parent, const char* name) {
+  return OpenForReading(parent, name, O_DIRECTORY | O_NOFOLLOW);
+}
 
 }  // namespace
 
 struct DirectoryWalk::Level {
-  Level* parent;
-  Level* child;
-  const char* name;  // in the parent's queue; of the first level the path
-  Subdirectory subdirectory;
+  std::string name;
   FileDescriptor directory;
   // Recorded when the directory is closed while the walk is below it.
-  FileIdentity closed;
-  Queue<Subdirectory> waiting;
+  FileIdentity closed = {};
+  std::vector<Subdirectory> waiting = {};
+  std::size_t next_waiting = 0;
 };
 
-// What a batch holds is written before it is read.
+// A batch is written before it is read.
 // cppcheck-suppress uninitMemberVar
-DirectoryWalk::DirectoryWalk(Links links) : links_(links) {}
-
+DirectoryWalk::DirectoryWalk() = default;
 DirectoryWalk::~DirectoryWalk() = default;
 
-void DirectoryWalk::Walk(const Start& start, const char* path,
-                         const Subdirectory& top) {
-  start_ = start;
-  if (!Push(path, top)) return LoseDirectory();
-  while (top_) EnterNextSubdirectory();
+bool DirectoryWalk::EnterDirectory(const FileIdentity&) { return true; }
+void DirectoryWalk::LeaveDirectory(int, const char*) {}
+void DirectoryWalk::LoseDirectory() {}
+
+void DirectoryWalk::Walk(int parent, const char* name,
+                         const FileIdentity& identity) {
+  start_ = parent;
+  Push(name, identity);
+  while (!levels_.empty()) EnterNextSubdirectory();
 }
 
-bool DirectoryWalk::Push(const char* name, const Subdirectory& subdirectory) {
-  auto* level = new (std::nothrow)
-      Level{top_, nullptr, name, subdirectory, FileDescriptor(), {}, {}};
-  if (!level) return false;
-  level->directory = OpenBelowTop(name);
-  (top_ ? top_->child : first_) = level;
-  top_ = level;
-  if (!level->directory.IsOpen()) return true;
-  if (++open_count_ == 1) farthest_open_ = level;
+void DirectoryWalk::Push(const char* name, const FileIdentity& identity) {
+  if (!EnterDirectory(identity)) return;
+  FileDescriptor directory = OpenBelowTop(name);
+  const bool is_open = directory.IsOpen();
+  levels_.push_back({name, std::move(directory)});
+  if (!is_open) return;
+  if (++open_count_ == 1) farthest_open_ = levels_.size() - 1;
   if (open_count_ > kMostOpenDirectories) (void)CloseFarthest();
   ReadTop();
-  return true;
 }
 
 FileDescriptor DirectoryWalk::OpenBelowTop(const char* name) {
-  const int parent = top_ ? top_->directory.Get() : start_.parent;
-  if (!top_) name = start_.name;
-  FileDescriptor directory = Open(parent, name);
+  const int parent = levels_.empty() ? start_ : levels_.back().directory.Get();
+  FileDescriptor directory = OpenDirectory(parent, name);
   while (!directory.IsOpen() && errno == EMFILE && CloseFarthest()) {
-    directory = Open(parent, name);
+    directory = OpenDirectory(parent, name);
   }
   return directory;
 }
 
 void DirectoryWalk::EnterNextSubdirectory() {
-  Subdirectory subdirectory;
-  const char* name = top_->waiting.TakeNext(&subdirectory);
-  if (!name) return Pop();
-  if (EnterDirectory(subdirectory) && !Push(name, subdirectory)) {
-    LoseDirectory();
-  }
+  Level& top = levels_.back();
+  if (top.next_waiting == top.waiting.size()) return Pop();
+  const Subdirectory next = std::move(top.waiting[top.next_waiting++]);
+  Push(next.name.c_str(), next.identity);
 }
 
 void DirectoryWalk::Pop() {
-  Level* done = top_;
-  const bool was_open = done->directory.IsOpen();
   const bool parent_is_open = OpenParentOfTop();
-  done->directory = FileDescriptor();
-  if (was_open) --open_count_;
-  top_ = done->parent;
-  (top_ ? top_->child : first_) = nullptr;
-  if (parent_is_open) {
-    LeaveDirectory(top_ ? top_->directory.Get() : start_.parent,
-                   top_ ? done->name : start_.name, done->subdirectory);
-  } else {
-    // Only a level that has a parent can lose it.
-    top_->waiting.DropAll();  // NOLINT(clang-analyzer-core.CallAndMessage)
-    errno = ESTALE;
-    LoseDirectory();
-  }
-  delete done;
+  const int parent = ParentOfTop();
+  const Level done = std::move(levels_.back());
+  levels_.pop_back();
+  if (done.directory.IsOpen()) --open_count_;
+  if (parent_is_open) return LeaveDirectory(parent, done.name.c_str());
+  // Only a level that has a parent can lose it.
+  levels_.back().next_waiting = levels_.back().waiting.size();
+  errno = ESTALE;
+  LoseDirectory();
+}
+
+int DirectoryWalk::ParentOfTop() const {
+  return levels_.size() > 1 ? levels_[levels_.size() - 2].directory.Get()
+                            : start_;
 }
 
 void DirectoryWalk::ReadTop() {
-  const int directory = top_->directory.Get();
+  const int directory = levels_.back().directory.Get();
   for (;;) {
     const ssize_t size = getdents64(directory, batch_, sizeof batch_);
     if (size <= 0) return;
@@ -170,18 +113,17 @@ void DirectoryWalk::ReadTop() {
 }
 
 void DirectoryWalk::VisitBatch(std::size_t size) {
-  const int directory = top_->directory.Get();
+  Level& top = levels_.back();
   for (std::size_t offset = 0; offset < size;) {
     // The system filled the batch with such records (Linux: getdents(2)).
     const auto* entry =
         static_cast<const dirent64*>(static_cast<const void*>(batch_ + offset));
     offset += entry->d_reclen;
     if (IsSelfOrParent(entry->d_name)) continue;
-    Subdirectory subdirectory;
-    if (VisitEntry(directory, entry->d_name, entry->d_type, &subdirectory) &&
-        !top_->waiting.Append(subdirectory, entry->d_name)) {
-      errno = ENOMEM;
-      LoseDirectory();
+    FileIdentity identity;
+    if (VisitEntry(top.directory.Get(), entry->d_name, entry->d_type,
+                   &identity)) {
+      top.waiting.push_back({entry->d_name, identity});
     }
   }
 }
@@ -190,59 +132,30 @@ void DirectoryWalk::VisitBatch(std::size_t size) {
 // are always the last of the path. False when there is only one left.
 bool DirectoryWalk::CloseFarthest() {
   if (open_count_ < 2) return false;
-  Level* farthest = farthest_open_;
-  farthest->closed = farthest->subdirectory.identity;
-  if (farthest->closed == FileIdentity() &&
-      !Identify(farthest->directory.Get(), &farthest->closed)) {
-    return false;
-  }
-  farthest->directory = FileDescriptor();
-  farthest_open_ = farthest->child;
+  Level& farthest = levels_[farthest_open_];
+  farthest.closed = IdentityOf(farthest.directory);
+  if (farthest.closed == FileIdentity()) return false;
+  farthest.directory = FileDescriptor();
+  ++farthest_open_;
   --open_count_;
   return true;
 }
 
-// Back up the way the walk came: through "..", or, where a link led here, by
-// name from the start. Only the very directory that was left will do.
+// Back through "..", to the very directory that was left and no other.
 bool DirectoryWalk::OpenParentOfTop() {
-  Level* parent = top_->parent;
-  if (!parent || parent->directory.IsOpen()) return true;
-  FileDescriptor found = Open(top_->directory.Get(), "..");
-  if (!IsDirectory(found, parent->closed)) found = OpenFromPath(*parent);
-  if (!IsDirectory(found, parent->closed)) return false;
-  parent->directory = std::move(found);
-  farthest_open_ = parent;
+  if (levels_.size() < 2) return true;
+  Level& parent = levels_[levels_.size() - 2];
+  if (parent.directory.IsOpen()) return true;
+  FileDescriptor found = OpenDirectory(levels_.back().directory.Get(), "..");
+  if (!found.IsOpen() || IdentityOf(found) != parent.closed) return false;
+  parent.directory = std::move(found);
+  farthest_open_ = levels_.size() - 2;
   ++open_count_;
   return true;
 }
 
-FileDescriptor DirectoryWalk::OpenFromPath(const Level& target) const {
-  FileDescriptor directory = Open(start_.parent, start_.name);
-  for (const Level* level = first_; level != &target && directory.IsOpen();
-       level = level->child) {
-    directory = Open(directory.Get(), level->child->name);
-  }
-  return directory;
-}
-
-FileDescriptor DirectoryWalk::Open(int parent, const char* name) const {
-  const int no_links = links_ == Links::kRefuse ? O_NOFOLLOW : 0;
-  return OpenForReading(parent, name, O_DIRECTORY | no_links);
-}
-
-bool DirectoryWalk::IsInside(const FileIdentity& identity) const {
-  for (const Level* level = top_; level; level = level->parent) {
-    if (level->subdirectory.identity == identity) return true;
-  }
-  return false;
-}
-
-SimpleString DirectoryWalk::PathOf(const char* name) const {
-  SimpleString path;
-  for (const Level* level = first_; level; level = level->child) {
-    path.AppendString(level->name);
-    path.AppendString("/");
-  }
-  path.AppendString(name);
-  return path;
+std::string DirectoryWalk::PathOf(const char* name) const {
+  std::string path;
+  for (const Level& level : levels_) path += level.name + "/";
+  return path + name;
 }

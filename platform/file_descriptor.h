@@ -2,6 +2,7 @@
 #pragma once
 
 #include <fcntl.h>
+#include <sys/types.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -35,15 +36,38 @@ class FileDescriptor {
   int descriptor_;
 };
 
+// Calls until no signal interrupts the call; `call` returns -1 on failure.
+template <typename Call>
+auto RetryInterrupted(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
+
+// The mode of a new file, less the process's mask: that of fopen(3).
+inline constexpr mode_t kNewFileMode = 0666;
+
 // Opens for reading, as openat(2) with these flags beside. Where the system
 // permits it, the file keeps its time of last access.
 [[nodiscard]] inline FileDescriptor OpenForReading(int directory,
                                                    const char* path,
                                                    int flags) {
   const int read_flags = flags | O_RDONLY | O_CLOEXEC;
-  int descriptor = openat(directory, path, read_flags | O_NOATIME);
-  if (descriptor < 0 && errno == EPERM) {  // the file is another user's
-    descriptor = openat(directory, path, read_flags);
-  }
+  const auto open_with = [&](int more_flags) {
+    return RetryInterrupted(
+        [&] { return openat(directory, path, read_flags | more_flags); });
+  };
+  int descriptor = open_with(O_NOATIME);
+  // Another user's file.
+  if (descriptor < 0 && errno == EPERM) descriptor = open_with(0);
   return FileDescriptor(descriptor);
+}
+
+// What opens a directory for calls such as openat(2) and unlinkat(2) only.
+inline constexpr int kPlaceFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+
+[[nodiscard]] inline FileDescriptor OpenPlace(int directory, const char* path,
+                                              int more_flags = 0) {
+  return FileDescriptor(RetryInterrupted(
+      [&] { return openat(directory, path, kPlaceFlags | more_flags); }));
 }

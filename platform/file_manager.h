@@ -15,10 +15,10 @@ class FileManager {
   virtual ~FileManager() = default;
 
   // Removes a file, or a directory with everything in it. Symbolic links are
-  // removed as links and never followed, nor is one on the way to a directory
-  // from the user settings base directory: the result is then false. True also
-  // when nothing is there, and for the empty path. Goes on after a failure and
-  // returns false at the end.
+  // removed as links and never followed. A link on the way to the entry, below
+  // the data directory that the path begins with, is not followed either: the
+  // result is then false. True also when nothing is there, and for the empty
+  // path. Goes on after a failure and returns false at the end.
   virtual bool RemoveFileAtPath(const SimpleString& path) = 0;
 
   // Removes the files under `path` whose age in seconds lies strictly between
@@ -27,14 +27,16 @@ class FileManager {
       const SimpleString& path, unsigned long lower_age_seconds,
       unsigned long upper_age_seconds) = 0;
 
-  // Bytes of a file, or of a directory tree: the sizes that stat reports of
-  // the directories and of everything in them, links followed. 0 when nothing
-  // is there; never more than 2^64 - 1.
+  // Bytes of a file, or of a directory tree: the sizes that stat reports for
+  // the directories and for everything in them, links followed; never more
+  // than 2^64 - 1. 0 when nothing is there or it cannot be examined: errno
+  // then says why.
   [[nodiscard]] virtual std::uint64_t SizeOfFileAtPath(
       const SimpleString& path) const = 0;
 
   // Makes the directory `path`/`name` and every missing one above it, with
-  // mode 0700. What exists is passed over, whatever it is.
+  // mode 0700. What exists is kept, whatever it is. Links on the way count as
+  // for RemoveFileAtPath.
   virtual bool CreateDirectoryAtPath(const SimpleString& path,
                                      const SimpleString& name) = 0;
 
@@ -42,16 +44,16 @@ class FileManager {
   [[nodiscard]] virtual const SimpleString& GetPathSeparator() const = 0;
 
   // The user's data directories. Empty when the user has no home directory:
-  // nothing is then kept on disk. Without a text when memory was short.
+  // nothing is then kept on disk.
   [[nodiscard]] virtual const SimpleString& GetAssetCacheDirectory() const = 0;
   [[nodiscard]] virtual const SimpleString& GetUserSettingsBaseDirectory()
       const = 0;
   [[nodiscard]] virtual const SimpleString& GetDRMLicenseDataDirectory()
       const = 0;
 
-  // The names in a directory, but for "." and "..", in natural order; empty
-  // when it cannot be opened. The caller owns the list; null when memory is
-  // short.
+  // The names in a directory except "." and "..", in natural order. Empty when
+  // it cannot be opened: errno then says why. Links on the way to it, and in
+  // its place, count as for RemoveFileAtPath. The caller owns the list.
   [[nodiscard]] virtual SortableStringVector* CreateNewListOfDirectoryContents(
       const SimpleString& path) const = 0;
 };

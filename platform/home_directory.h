@@ -6,5 +6,5 @@
 // Expands a path that begins with "~" to an absolute one, as a shell would,
 // and where a shell could not, with the home directory of the password
 // database. Without any home directory says so on standard error and returns
-// the empty text. Without a text when memory is short.
+// the empty text.
 [[nodiscard]] SASM::SimpleString ExpandHomeDirectory(const char* path);

@@ -1,17 +1,17 @@
 #include "platform/linux_file_manager.h"
 
-#include <dirent.h>
-#include <unistd.h>
+#include <sys/stat.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <ctime>
 #include <memory>
-#include <new>
-#include <string_view>
+#include <string>
 
-#include "platform/file_descriptor.h"
+#include "platform/directory_stream.h"
 #include "platform/home_directory.h"
+#include "platform/open_below.h"
 #include "platform/tree_removal.h"
 #include "platform/tree_size.h"
 
@@ -28,21 +28,24 @@ constexpr char kDRMLicenseDataDir[] =
 // Only its owner has a say in a directory of settings.
 constexpr mode_t kDirectoryMode = 0700;
 
-bool MakeDirectory(const char* path) {
-  if (access(path, F_OK) == 0 || mkdir(path, kDirectoryMode) == 0) return true;
-  std::perror("CreateDirectoryAtPath");
-  return false;
+// A path without the "/" at its end, which behind a link would mean what the
+// link leads to.
+std::string_view WithoutFinalSlashes(std::string_view path) {
+  const std::size_t last = path.find_last_not_of('/');
+  return path.substr(0, last == path.npos ? 1 : last + 1);
 }
 
-DIR* OpenDirectory(const char* path) {
-  FileDescriptor descriptor = OpenForReading(AT_FDCWD, path, O_DIRECTORY);
-  DIR* directory = descriptor.IsOpen() ? fdopendir(descriptor.Get()) : nullptr;
-  if (directory) (void)descriptor.Release();  // closedir closes it
-  return directory;
-}
-
-struct CloseDirectory {
-  void operator()(DIR* directory) const { closedir(directory); }
+// A path as the directory that holds the entry, and the entry's name.
+struct SplitPath {
+  explicit SplitPath(std::string_view path) {
+    const std::size_t slash = path.rfind('/');
+    name = path.substr(slash == path.npos ? 0 : slash + 1);
+    directory = slash == path.npos
+                    ? "."
+                    : path.substr(0, std::max(slash, std::size_t{1}));
+  }
+  std::string_view directory;
+  std::string name;
 };
 
 }  // namespace
@@ -84,36 +87,62 @@ const SimpleString& LinuxFileManager::GetDRMLicenseDataDirectory() const {
   return directory;
 }
 
+FileDescriptor LinuxFileManager::OpenTrusted(std::string_view path) const {
+  for (const SimpleString* trusted :
+       {&GetUserSettingsBaseDirectory(), &GetAssetCacheDirectory(),
+        &GetDRMLicenseDataDirectory()}) {
+    const std::string_view top = trusted->c_str();
+    if (top.empty() || !path.starts_with(top)) continue;
+    const std::string way(path.substr(top.size()));
+    if (way.starts_with('/')) return OpenBelow(top.data(), way.c_str() + 1);
+  }
+  return OpenBelow(std::string(path).c_str(), "");
+}
+
 bool LinuxFileManager::CreateDirectoryAtPath(const SimpleString& path,
                                              const SimpleString& name) {
-  SimpleString chain =
+  if (path.IsEmpty()) return false;
+  const SimpleString chain =
       SimpleString::Joined({path.c_str(), kPathSeparator, name.c_str()});
-  if (!chain.HasText() || path.IsEmpty()) return false;
-  // Most of the time everything is there, which one call tells.
-  if (access(chain.c_str(), F_OK) == 0) return true;
-  if (!chain.AppendString(kPathSeparator)) return false;
-  std::unique_ptr<char[]> prefix(SimpleString::CopyString(chain.c_str()));
-  if (!prefix) return false;
-  for (char* slash = std::strchr(prefix.get() + 1, '/'); slash;
-       slash = std::strchr(slash + 1, '/')) {
-    *slash = '\0';
-    if (!MakeDirectory(prefix.get())) return false;
-    *slash = '/';
+  // Common case: the directory exists.
+  if (OpenTrusted(chain.c_str()).IsOpen() || MakeDirectory(chain.c_str())) {
+    return true;
   }
-  return true;
+  std::perror("CreateDirectoryAtPath");
+  return false;
+}
+
+bool LinuxFileManager::MakeDirectory(std::string_view path) const {
+  const SplitPath split(path);
+  FileDescriptor holder = OpenTrusted(split.directory);
+  if (!holder.IsOpen() && errno == ENOENT && MakeDirectory(split.directory)) {
+    holder = OpenTrusted(split.directory);
+  }
+  return holder.IsOpen() &&
+         (mkdirat(holder.Get(), split.name.c_str(), kDirectoryMode) == 0 ||
+          errno == EEXIST);
 }
 
 std::uint64_t LinuxFileManager::SizeOfFileAtPath(
     const SimpleString& path) const {
-  return path.IsEmpty() ? 0 : TreeSize().Measure(path.c_str());
+  if (path.IsEmpty()) return 0;
+  TreeSize* shared = SharedMeasurement::Current();
+  return shared ? shared->Measure(path.c_str())
+                : TreeSize().Measure(path.c_str());
 }
 
 bool LinuxFileManager::RemoveFilesRecursively(const SimpleString& path,
                                               FilePredicate* predicate) {
-  if (!path.HasText()) return false;
-  // What lies below is of others' making, the links included.
-  return path.IsEmpty() ||
-         TreeRemoval(predicate).Remove(path, GetUserSettingsBaseDirectory());
+  if (path.IsEmpty()) return true;
+  const SplitPath split(WithoutFinalSlashes(path.c_str()));
+  const FileDescriptor holder = OpenTrusted(split.directory);
+  if (holder.IsOpen()) {
+    return TreeRemoval(predicate).Remove(holder.Get(), split.name.c_str(),
+                                         std::string(split.directory));
+  }
+  if (errno == ENOENT) return true;
+  std::perror(TreeRemoval::kLookStep);
+  return false;
 }
 
 bool LinuxFileManager::RemoveFileAtPath(const SimpleString& path) {
@@ -129,18 +158,16 @@ bool LinuxFileManager::RemoveFilesInDirectoryInDateRange(
 
 SortableStringVector* LinuxFileManager::CreateNewListOfDirectoryContents(
     const SimpleString& path) const {
-  std::unique_ptr<SortableStringVector> names(new (std::nothrow)
-                                                  SortableStringVector);
-  if (!names || path.IsEmpty()) return names.release();
-  const std::unique_ptr<DIR, CloseDirectory> directory(
-      OpenDirectory(path.c_str()));
+  auto names = std::make_unique<SortableStringVector>();
+  if (path.IsEmpty()) return names.release();
+  const FileDescriptor place = OpenTrusted(path.c_str());
+  const DirectoryStream directory =
+      place.IsOpen() ? OpenDirectoryStream(place.Get(), ".") : nullptr;
   if (!directory) return names.release();
   while (const dirent* entry = readdir(directory.get())) {
-    // Compared without a copy: for want of memory ".." must not be listed.
-    const std::string_view listed = entry->d_name;
-    if (listed == "." || listed == "..") continue;
+    if (IsSelfOrParent(entry->d_name)) continue;
     const SimpleString name = entry->d_name;
-    if (!names->addElement(&name)) return nullptr;
+    names->addElement(&name);
   }
   names->Sort();
   return names.release();

@@ -1,22 +1,17 @@
 // The file manager of a POSIX system.
 #pragma once
 
-#include <sys/stat.h>
+#include <string_view>
 
+#include "platform/file_descriptor.h"
 #include "platform/file_manager.h"
+#include "platform/file_predicate.h"
 
 // Holds no state: the data directories are worked out once per process, with
 // the environment of the first call, and shared by every instance.
 class LinuxFileManager : public SASM::FileManager {
  public:
-  // Decides which files a removal takes.
-  class FilePredicate {
-   public:
-    virtual ~FilePredicate() = default;
-    // True to remove the file. `path` is its full path, `info` what the
-    // system reports of it, of a symbolic link about the link itself.
-    virtual bool test(char const* path, struct stat& info) = 0;
-  };
+  using FilePredicate = ::FilePredicate;
 
   // Takes the files whose age lies strictly between two bounds. The age is
   // counted back from the moment the predicate is built; a file of the future
@@ -55,4 +50,13 @@ class LinuxFileManager : public SASM::FileManager {
   // directories that are then empty. A null predicate takes every file.
   bool RemoveFilesRecursively(const SASM::SimpleString& path,
                               FilePredicate* predicate);
+
+ private:
+  // The directory at `path`, for calls such as openat(2) only. Below the data
+  // directories no link is followed; they, what leads to them, and any other
+  // path are trusted. On failure errno says why, see OpenBelow.
+  [[nodiscard]] FileDescriptor OpenTrusted(std::string_view path) const;
+  // Makes the directory and the missing ones above it; errno says why it could
+  // not. True for whatever exists.
+  [[nodiscard]] bool MakeDirectory(std::string_view path) const;
 };

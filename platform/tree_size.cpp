@@ -1,90 +1,83 @@
 #include "platform/tree_size.h"
 
-#include <fcntl.h>
-#include <search.h>
+#include <sys/stat.h>
 
-#include <algorithm>
-#include <compare>
-#include <limits>
-#include <new>
-#include <tuple>
-
-// What the content of a directory reached by a link adds: nothing until it
-// has been measured.
-struct TreeSize::Measured {
-  FileIdentity identity;
-  std::uint64_t total_before_bytes;
-  std::uint64_t size_bytes = 0;
-
-  static int Compare(const void* a, const void* b) {
-    const auto key = [](const void* node) {
-      const auto& identity = static_cast<const Measured*>(node)->identity;
-      return std::make_tuple(identity.device, identity.inode);
-    };
-    const auto order = key(a) <=> key(b);
-    return std::is_gt(order) - std::is_lt(order);
-  }
-
-  static void Delete(void* node) { delete static_cast<Measured*>(node); }
-};
-
-TreeSize::TreeSize() : DirectoryWalk(Links::kFollow) {}
-
-TreeSize::~TreeSize() { tdestroy(measured_, Measured::Delete); }
+#include <optional>
 
 std::uint64_t TreeSize::Measure(const char* path) {
-  Subdirectory top;
-  if (VisitEntry(AT_FDCWD, path, DT_DIR, &top)) Walk(path, top);
-  return total_bytes_;
-}
-
-bool TreeSize::VisitEntry(int directory, const char* name, unsigned char type,
-                          Subdirectory* subdirectory) {
   struct stat info;
-  if (fstatat(directory, name, &info, 0) != 0) return false;
-  Add(static_cast<std::uint64_t>(info.st_size));
-  subdirectory->identity = {info.st_dev, info.st_ino};
-  subdirectory->is_link = type == DT_LNK || type == DT_UNKNOWN;
-  return S_ISDIR(info.st_mode);
+  if (stat(path, &info) != 0) return 0;
+  const auto own_bytes = static_cast<std::uint64_t>(info.st_size);
+  if (!S_ISDIR(info.st_mode)) return own_bytes;
+  return AddSizes(own_bytes, ContentOf(directories_.Read(
+                                 path, {info.st_dev, info.st_ino})));
 }
 
-bool TreeSize::EnterDirectory(const Subdirectory& subdirectory) {
-  const bool may_be_a_circle = subdirectory.is_link || links_inside_ > 0;
-  if (may_be_a_circle && IsInside(subdirectory.identity)) return false;
-  if (!subdirectory.is_link) return true;
-  if (const Measured* known = Find(subdirectory.identity)) {
-    Add(known->size_bytes);
-    return false;
+std::uint64_t TreeSize::ContentOf(Directory* top) {
+  ++measurement_;
+  std::uint64_t bytes = top->content_bytes;
+  if (!top->is_final) Enter(top, false);
+  while (!steps_.empty()) {
+    const Step& step = steps_.back();
+    if (step.next < step.directory->subdirectories.size()) {
+      EnterNextSubdirectory();
+    } else {
+      bytes = LeaveDirectory();
+    }
   }
-  if (!Remember(subdirectory.identity)) return false;
-  ++links_inside_;
-  return true;
+  return bytes;
 }
 
-void TreeSize::LeaveDirectory(int, const char*,
-                              const Subdirectory& subdirectory) {
-  if (!subdirectory.is_link) return;
-  --links_inside_;
-  Measured* measured = Find(subdirectory.identity);
-  measured->size_bytes = total_bytes_ - measured->total_before_bytes;
+void TreeSize::Enter(Directory* directory, bool is_link) {
+  directory->is_open = true;
+  steps_.push_back({.directory = directory,
+                    .is_by_link = is_link,
+                    .bytes = directory->entries_bytes});
 }
 
-TreeSize::Measured* TreeSize::Find(const FileIdentity& identity) {
-  const Measured key = {identity, 0};
-  void* node = tfind(&key, &measured_, Measured::Compare);
-  return node ? *static_cast<Measured**>(node) : nullptr;
+void TreeSize::EnterNextSubdirectory() {
+  Step& step = steps_.back();
+  const auto& [directory, is_link] =
+      step.directory->subdirectories[step.next++];
+  const bool is_measured = is_link && directory->measurement == measurement_;
+  if (!directory->is_final && !directory->is_open && !is_measured) {
+    return Enter(directory, is_link);
+  }
+  step.is_final = step.is_final && directory->is_final;
+  if (!directory->is_open) {
+    step.bytes = AddSizes(step.bytes, directory->content_bytes);
+  }
 }
 
-bool TreeSize::Remember(const FileIdentity& identity) {
-  auto* measured = new (std::nothrow) Measured{identity, total_bytes_};
-  if (!measured) return false;
-  if (tsearch(measured, &measured_, Measured::Compare)) return true;
-  delete measured;
-  return false;
+std::uint64_t TreeSize::LeaveDirectory() {
+  const Step done = steps_.back();
+  steps_.pop_back();
+  done.directory->is_open = false;
+  done.directory->is_final = done.is_final;
+  if (done.is_final || done.is_by_link) {
+    done.directory->content_bytes = done.bytes;
+    done.directory->measurement = measurement_;
+  }
+  if (steps_.empty()) return done.bytes;
+  Step& parent = steps_.back();
+  parent.bytes = AddSizes(parent.bytes, done.bytes);
+  parent.is_final = parent.is_final && done.is_final;
+  return done.bytes;
 }
 
-void TreeSize::Add(std::uint64_t size_bytes) {
-  const std::uint64_t room =
-      std::numeric_limits<std::uint64_t>::max() - total_bytes_;
-  total_bytes_ += std::min(size_bytes, room);
+namespace {
+
+std::optional<TreeSize> shared;
+int sharers = 0;
+
+}  // namespace
+
+SharedMeasurement::SharedMeasurement() {
+  if (sharers++ == 0) shared.emplace();
 }
+
+SharedMeasurement::~SharedMeasurement() {
+  if (--sharers == 0) shared.reset();
+}
+
+TreeSize* SharedMeasurement::Current() { return shared ? &*shared : nullptr; }

@@ -3,39 +3,54 @@
 
 #include <cstdint>
 
-#include "platform/directory_walk.h"
+#include "platform/directory_sizes.h"
 
 // Adds up the sizes that stat reports, links followed: a directory reached by
-// a link counts again, with everything in it, however often it is reached;
-// it is measured once. A link back to a directory that is being measured adds
-// that directory's own size and ends there, so that circles end.
-class TreeSize : private DirectoryWalk {
+// a link counts again, with everything in it, however often it is reached. A
+// link back to a directory that is being measured adds that directory's own
+// size and ends there, so that circles end.
+//
+// Reads each directory once in its life: a later measurement that reaches the
+// same directory gives what it held then.
+class TreeSize {
  public:
-  TreeSize();
-  ~TreeSize() override;
-
   // Bytes; 0 when nothing is there, at most 2^64 - 1.
   [[nodiscard]] std::uint64_t Measure(const char* path);
 
  private:
-  struct Measured;
+  using Directory = DirectorySizes::Directory;
+  // A directory that is being measured.
+  struct Step {
+    Directory* directory;
+    bool is_by_link;
+    std::size_t next = 0;  // subdirectory
+    std::uint64_t bytes = 0;
+    // False when something below it was left out because it is being measured:
+    // reached from elsewhere, the directory may have another size.
+    bool is_final = true;
+  };
 
-  bool VisitEntry(int directory, const char* name, unsigned char type,
-                  Subdirectory* subdirectory) override;
-  bool EnterDirectory(const Subdirectory& subdirectory) override;
-  void LeaveDirectory(int parent, const char* name,
-                      const Subdirectory& subdirectory) override;
-  void LoseDirectory() override {}
+  [[nodiscard]] std::uint64_t ContentOf(Directory* top);
+  void Enter(Directory* directory, bool is_link);
+  void EnterNextSubdirectory();
+  // The bytes of the directory that is done.
+  std::uint64_t LeaveDirectory();
 
-  // Borrowed; null when that directory was not reached by a link so far.
-  [[nodiscard]] Measured* Find(const FileIdentity& identity);
-  // False when memory is short.
-  [[nodiscard]] bool Remember(const FileIdentity& identity);
-  void Add(std::uint64_t size_bytes);
+  DirectorySizes directories_;
+  // From the top of the tree to the directory that is being measured.
+  std::vector<Step> steps_;
+  unsigned int measurement_ = 0;
+};
 
-  std::uint64_t total_bytes_ = 0;
-  // Directories reached by links: a tree of <search.h>.
-  void* measured_ = nullptr;
-  // Links on the way from the start to where the walk is.
-  unsigned int links_inside_ = 0;
+// As long as one of these lives, all sizes are measured by one TreeSize: lists
+// of many sites that share directories are measured quickly. May be nested.
+class SharedMeasurement {
+ public:
+  SharedMeasurement();
+  ~SharedMeasurement();
+  SharedMeasurement(const SharedMeasurement&) = delete;
+  SharedMeasurement& operator=(const SharedMeasurement&) = delete;
+
+  // Null when none lives.
+  [[nodiscard]] static TreeSize* Current();
 };

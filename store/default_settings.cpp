@@ -1,6 +1,5 @@
 #include "store/default_settings.h"
 
-#include <new>
 #include <utility>
 
 #include "store/setting_keys.h"
@@ -47,7 +46,7 @@ SettingDataItem MakeDefaultItem(const DefaultSetting& row,
                                 const SettingDataItem* master_item) {
   SimpleString name(row.key);
   if (row.type == kArray) {
-    return SettingDataItem(std::move(name), new (std::nothrow) SDIVector);
+    return SettingDataItem(std::move(name), new SDIVector);
   }
   if (row.type == kBool) {
     return SettingDataItem(std::move(name),
@@ -56,22 +55,15 @@ SettingDataItem MakeDefaultItem(const DefaultSetting& row,
   return SettingDataItem(std::move(name), NumberOr(master_item, row.value));
 }
 
-bool InsertMissingDefaults(std::span<const DefaultSetting> rows,
+void InsertMissingDefaults(std::span<const DefaultSetting> rows,
                            const SettingsDictionary& master,
                            SettingsDictionary* dictionary) {
-  bool all_are_there = true;
   for (const DefaultSetting& row : rows) {
-    const SimpleString key = row.key;
-    if (FindSetting(key, *dictionary)) continue;
+    if (FindSetting(row.key, *dictionary)) continue;
     const SettingDataItem* master_item =
         row.master_key ? FindSetting(row.master_key, master) : nullptr;
-    SettingDataItem item = MakeDefaultItem(row, master_item);
-    all_are_there =
-        item.IsWhole() &&
-        dictionary->insert(key, std::move(item)) != dictionary->end() &&
-        all_are_there;
+    dictionary->insert(row.key, MakeDefaultItem(row, master_item));
   }
-  return all_are_there;
 }
 
 }  // namespace SASM

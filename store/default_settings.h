@@ -11,7 +11,7 @@ namespace SASM {
 struct DefaultSetting {
   const char* key;
   _SettingsDataType type;
-  // Of a boolean 0 or 1; of an array, which starts empty, nothing.
+  // 0 or 1 for a boolean; unused for an array, which starts empty.
   double value;
   // The master key whose value, where it has this type, comes first; or null.
   const char* master_key;
@@ -27,10 +27,9 @@ struct DefaultSetting {
     const DefaultSetting& row, const SettingDataItem* master_item);
 
 // Inserts the rows whose keys the dictionary lacks. `master` holds the master
-// settings; it may be the dictionary itself. False when memory was short for
-// one of them.
-[[nodiscard]] bool InsertMissingDefaults(std::span<const DefaultSetting> rows,
-                                         const SettingsDictionary& master,
-                                         SettingsDictionary* dictionary);
+// settings; it may be the dictionary itself.
+void InsertMissingDefaults(std::span<const DefaultSetting> rows,
+                           const SettingsDictionary& master,
+                           SettingsDictionary* dictionary);
 
 }  // namespace SASM

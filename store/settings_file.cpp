@@ -4,8 +4,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
-#include <new>
+#include <ctime>
+#include <iterator>
+#include <string>
 
 #include "platform/file_descriptor.h"
 #include "settings/settings_reader.h"
@@ -13,89 +17,169 @@
 namespace SASM {
 namespace {
 
-// What fopen(3) gives a new file, less the process's mask.
-constexpr mode_t kNewFileMode = 0666;
-
-// Of a file below this size, what can be read is the whole file.
+// A file below this size is whole however short it is read.
 constexpr std::size_t kReadAtOnce = 65536;
 
-bool SizeOfRegularFile(int descriptor, std::size_t* size) {
+constexpr int kReadFlags = O_NONBLOCK | O_NOCTTY;
+constexpr int kCreateFlags =
+    O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC;
+
+// How often a file that another program puts in the way is removed again.
+constexpr int kMostAttempts = 4;
+
+constexpr useconds_t kWaitMicroseconds = 5000;
+constexpr int kMostWaitsPerSecond = 20;
+
+// False with errno 0 for what can be no settings file.
+bool SizeOfRegularFile(int file, std::size_t* size) {
   struct stat info;
-  if (fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode)) return false;
+  if (fstat(file, &info) != 0) return false;
   *size = static_cast<std::size_t>(info.st_size);
-  return *size <= kLargestSettingsFile;
+  errno = 0;
+  return S_ISREG(info.st_mode) && *size <= kLargestSettingsFile;
 }
 
-// As many bytes as the file gives, at most `size`.
-std::size_t ReadBytes(int descriptor, unsigned char* bytes, std::size_t size) {
-  std::size_t taken = 0;
-  while (taken < size) {
-    const ssize_t count = read(descriptor, bytes + taken, size - taken);
-    if (count <= 0) break;
-    taken += static_cast<std::size_t>(count);
+// As many bytes as the file has, at most `size`, which becomes their number.
+bool ReadBytes(int file, unsigned char* bytes, std::size_t* size) {
+  const std::size_t wanted = *size;
+  *size = 0;
+  while (*size < wanted) {
+    const ssize_t count = RetryInterrupted(
+        [&] { return read(file, bytes + *size, wanted - *size); });
+    if (count < 0) return false;
+    if (count == 0) break;
+    *size += static_cast<std::size_t>(count);
   }
-  return taken;
+  return true;
 }
 
-}  // namespace
-
-bool ReadFileImage(const SimpleString& path, FileImage* image) {
-  image->short_of_memory = !path.HasText();
-  if (path.IsEmpty()) return false;
-  FileDescriptor file =
-      OpenForReading(AT_FDCWD, path.c_str(), O_NONBLOCK | O_NOCTTY);
+// False with errno 0, after a line that says so, for a file that has become
+// shorter meanwhile.
+bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
   if (!file.IsOpen() || !SizeOfRegularFile(file.Get(), &image->size)) {
     return false;
   }
-  image->bytes.reset(new (std::nothrow) unsigned char[image->size]);
-  image->short_of_memory = !image->bytes;
-  if (image->short_of_memory) return false;
-  const std::size_t taken =
-      ReadBytes(file.Get(), image->bytes.get(), image->size);
-  const bool read = taken == image->size || image->size < kReadAtOnce;
-  image->size = taken;
-  if (!read) {
-    std::fputs(
-        "SMSettingsManager: Pathological error when reading master "
-        "settings.sol file.\n",
-        stderr);
-  }
+  const std::size_t wanted = image->size;
+  image->bytes.reset(new unsigned char[wanted]);
+  if (!ReadBytes(file.Get(), image->bytes.get(), &image->size)) return false;
+  if (image->size == wanted || wanted < kReadAtOnce) return true;
+  std::fputs(
+      "SMSettingsManager: Pathological error when reading master "
+      "settings.sol file.\n",
+      stderr);
+  errno = 0;
+  return false;
+}
+
+bool ReadOnce(const char* path, FileImage* image) {
+  FileDescriptor file = OpenForReading(AT_FDCWD, path, kReadFlags);
+  if (!ReadOpenFile(file, image)) return false;
   if (!file.Close()) {
     std::fputs("SMSettingsManager: Unable to close master settings.sol file.\n",
                stderr);
   }
-  return read;
+  return true;
 }
 
-SettingsDictionary* ReadSettingsFile(const SimpleString& path,
-                                     SimpleString** name,
-                                     bool* short_of_memory) {
-  FileImage image;
-  const bool has_image = ReadFileImage(path, &image);
+// False for an image that ends before its header says so.
+bool IsComplete(const FileImage& image) {
   SMImplementation::SettingsReader reader(image.bytes.get(), image.size);
-  SettingsDictionary* dictionary =
-      has_image ? reader.GetNewSettingsData(name) : nullptr;
-  if (short_of_memory) {
-    *short_of_memory = image.short_of_memory || reader.WasShortOfMemory();
-  }
-  return dictionary;
+  reader.KeepQuiet();
+  unsigned short type = 0;
+  unsigned int length = 0;
+  reader.GetHeaderInfo(&type, &length);
+  return image.size > 0 && length <= image.size - reader.Position();
 }
 
-bool WriteFileImage(const SimpleString& path, const unsigned char* bytes,
-                    std::size_t size) {
-  if (path.IsEmpty()) return false;
-  FileDescriptor file(open(path.c_str(),
-                           O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW |
-                               O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
-                           kNewFileMode));
-  if (!file.IsOpen()) return false;
-  while (size > 0) {
-    const ssize_t count = write(file.Get(), bytes, size);
+SimpleString DirectoryOf(const SimpleString& path) {
+  const std::string text = path.c_str();
+  return text.substr(0, text.rfind('/')).c_str();
+}
+
+bool WriteBytes(int file, std::span<const unsigned char> bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = RetryInterrupted(
+        [&] { return write(file, bytes.data(), bytes.size()); });
     if (count <= 0) return false;
-    bytes += count;
-    size -= static_cast<std::size_t>(count);
+    bytes = bytes.subspan(static_cast<std::size_t>(count));
   }
-  return file.Close();
+  return true;
+}
+
+// Removes the file, if there is one, and creates it with these bytes.
+bool CreateFile(int directory, const char* name,
+                std::span<const unsigned char> bytes) {
+  for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
+    if (unlinkat(directory, name, 0) != 0 && errno != ENOENT) return false;
+    FileDescriptor file(RetryInterrupted(
+        [&] { return openat(directory, name, kCreateFlags, kNewFileMode); }));
+    if (file.IsOpen()) return WriteBytes(file.Get(), bytes) && file.Close();
+    if (errno != EEXIST) return false;
+  }
+  return false;
+}
+
+}  // namespace
+
+bool LeavesContentUnknown(int error) {
+  constexpr int kNoFile[] = {0,     ENOENT, ENOTDIR,      EACCES,
+                             EPERM, ELOOP,  ENAMETOOLONG, ENXIO /* socket */};
+  return std::ranges::count(kNoFile, error) == 0;
+}
+
+bool ReadFileImage(const SimpleString& path, FileImage* image) {
+  for (int looks_left = kMoreLooks;; --looks_left) {
+    const bool is_read = ReadOnce(path.c_str(), image);
+    const int error = errno;
+    const bool may_be_rewritten =
+        is_read ? !IsComplete(*image) : error == ENOENT;
+    if (!may_be_rewritten || looks_left == 0 ||
+        !WasJustChanged(DirectoryOf(path)) || !WaitForWriter()) {
+      errno = error;
+      return is_read;
+    }
+  }
+}
+
+bool WasJustChanged(const SimpleString& path) {
+  struct stat info;
+  timespec now;
+  if (stat(path.c_str(), &info) != 0) return false;
+  clock_gettime(CLOCK_REALTIME, &now);
+  const auto seconds = now.tv_sec - info.st_mtim.tv_sec;
+  return seconds == 0 || (seconds == 1 && now.tv_nsec < info.st_mtim.tv_nsec);
+}
+
+bool WaitForWriter() {
+  static std::time_t second = 0;
+  static int waits = 0;
+  if (const std::time_t now = std::time(nullptr); now != second) {
+    second = now;
+    waits = 0;
+  }
+  if (waits == kMostWaitsPerSecond) return false;
+  ++waits;
+  usleep(kWaitMicroseconds);
+  return true;
+}
+
+bool ReplaceFile(int directory, const char* name,
+                 std::span<const unsigned char> bytes) {
+  FileImage old;
+  FileDescriptor old_file =
+      OpenForReading(directory, name, kReadFlags | O_NOFOLLOW);
+  const bool has_old = ReadOpenFile(old_file, &old);
+  if (!has_old && LeavesContentUnknown(errno)) return false;
+  old_file.Close();  // its descriptor may be the last
+  if (CreateFile(directory, name, bytes)) return true;
+  const int error = errno;
+  if (has_old) {
+    (void)CreateFile(directory, name, old.Bytes());  // nothing else helps
+  } else {
+    (void)unlinkat(directory, name, 0);  // or it would be a torn file
+  }
+  errno = error;
+  return false;
 }
 
 }  // namespace SASM

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 
 #include "settings/settings_dictionary.h"
 
@@ -12,30 +13,48 @@ namespace SASM {
 struct FileImage {
   std::unique_ptr<unsigned char[]> bytes;
   std::size_t size = 0;
-  // True when it is not known what the file holds.
-  bool short_of_memory = false;
-};
 
-// False without a message when the file cannot be opened, is no regular file,
-// or is larger than kLargestSettingsFile; false with a message when it cannot
-// be read whole. Opens for reading only and never waits for a writer.
-[[nodiscard]] bool ReadFileImage(const SimpleString& path, FileImage* image);
+  [[nodiscard]] std::span<const unsigned char> Bytes() const {
+    return {bytes.get(), size};
+  }
+};
 
 // Far above what a player ever wrote, low enough that a file of the worst kind,
 // which takes thirty-six times its size, can be held in memory.
 inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 
-// The dictionary in a settings file, owned by the caller; null when there is
-// no image or the reader rejects it, or when memory is short, which
-// `*short_of_memory` then tells. `*name` becomes a new string with the name
-// the file carries, owned by the caller, or stays as it was.
-[[nodiscard]] SettingsDictionary* ReadSettingsFile(
-    const SimpleString& path, SimpleString** name,
-    bool* short_of_memory = nullptr);
+// Reads the file for reading only, without waiting for the writer of a pipe.
+// A file that is missing, empty or cut off in a directory that was changed
+// within the last second may be in the middle of being written by the plug-in:
+// it is looked at again up to three times, 5 ms apart.
+//
+// False when the file cannot be opened, cannot be read whole, is no regular
+// file or is larger than kLargestSettingsFile. errno then says why, and is 0
+// for a file that can be no settings file; LeavesContentUnknown says what
+// follows. Prints a line about a file that changes while it is read.
+[[nodiscard]] bool ReadFileImage(const SimpleString& path, FileImage* image);
 
-// Creates the file, or empties it, and writes the bytes. Never through a link
-// in the file's place. False when not every byte was written.
-[[nodiscard]] bool WriteFileImage(const SimpleString& path,
-                                  const unsigned char* bytes, std::size_t size);
+// True for a failure that says nothing about what the file holds, such as too
+// many open files. False for one that says that there is no file, or none that
+// the user may read, and for 0.
+[[nodiscard]] bool LeavesContentUnknown(int error);
+
+// Whether the directory at `path` was changed within the last second, so that
+// what is missing in it may be there soon.
+[[nodiscard]] bool WasJustChanged(const SimpleString& path);
+// Gives the writer of a file 5 ms; false, at once, when the process has waited
+// for a tenth of the current second already.
+[[nodiscard]] bool WaitForWriter();
+// The most looks after the first.
+inline constexpr int kMoreLooks = 3;
+
+// Replaces the file `name` in the open directory `directory`: removes it, then
+// creates a new one with these bytes, never through a link. Everything the new
+// file needs is ready before the old one is removed. False when the bytes
+// could not be written whole; the old ones are then written back. False with
+// nothing changed when the old file could not be read (see
+// LeavesContentUnknown) or removed; errno then says why.
+[[nodiscard]] bool ReplaceFile(int directory, const char* name,
+                               std::span<const unsigned char> bytes);
 
 }  // namespace SASM

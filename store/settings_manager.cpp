@@ -1,37 +1,45 @@
 #include "store/settings_manager.h"
 
-#include <algorithm>
-#include <memory>
-#include <new>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <utility>
 
-#include "platform/link_check.h"
+#include "platform/open_below.h"
+#include "settings/settings_reader.h"
 #include "settings/settings_writer.h"
 #include "store/default_settings.h"
+#include "store/list_changes.h"
 #include "store/setting_keys.h"
 #include "store/settings_file.h"
-#include "store/stored_data.h"
 
 namespace SASM {
 namespace {
 
 // Creates the directory itself, as the last name of a directory chain.
-const SimpleString& ThisDirectory() {
-  static const SimpleString name(".");
-  return name;
-}
+constexpr char kThisDirectory[] = ".";
 
-// Kept: a list that is not found for want of a key would seem to be missing.
-const SimpleString& DomainsKey() {
-  static const SimpleString key(kDomains);
-  return key;
+// Every character outside ASCII as "\xNN": a path holds names that somebody
+// else has chosen.
+std::string Printable(const char* path) {
+  std::string text;
+  for (; *path; ++path) {
+    char escaped[5] = {*path};
+    if (*path < ' ' || *path > '~') {
+      std::snprintf(
+          escaped, sizeof escaped, "\\x%02X",
+          static_cast<unsigned int>(static_cast<unsigned char>(*path)));
+    }
+    text += escaped;
+  }
+  return text;
 }
 
 }  // namespace
 
 SettingsManager::SettingsManager(FileManager* file_manager)
     : mLayout(file_manager), mFileManager(file_manager) {
-  LoadMasterSettingsFromDisk();
+  LoadMasterSettings();
 }
 
 SettingsManager::~SettingsManager() { DeleteAllDictionaries(); }
@@ -41,94 +49,141 @@ const SimpleString& SettingsManager::MasterDomain() {
 }
 
 SettingsDictionary* SettingsManager::LoadedDictionary(
-    const SimpleString& domain) {
-  const unsigned int hash = hashSS(domain);
-  const DictionaryMap::Node*& last =
-      mLastUsed[hash % DictionaryMap::kBucketCount];
-  const auto is_wanted = [&](const DictionaryMap::Node* node) {
-    return node && node->hash == hash && node->key == domain;
-  };
-  if (is_wanted(last)) return last->value;
-  // A bucket holds the newest first: what was loaded next stands before.
-  if (last && is_wanted(last->prev)) return (last = last->prev)->value;
+    const SimpleString& domain) const {
   const auto found = mDomainSettings.find(domain);
-  if (found == mDomainSettings.end()) return nullptr;
-  return (last = &*found)->value;
+  return found == mDomainSettings.end() ? nullptr : found->value;
 }
 
 SettingsDictionary* SettingsManager::EnsureSettingsAreLoadedForDomain(
     const SimpleString& domain) {
-  if (SettingsDictionary* loaded = LoadedDictionary(domain)) return loaded;
-  SettingsDictionary* read = nullptr;
-  if (!ReadDictionary(domain, &read)) return nullptr;
-  if (read) return AddDictionary(domain, read);
+  SettingsDictionary* loaded = LoadedDictionary(domain);
+  if (loaded && !IsUnread(domain)) return loaded;
+  if (!(domain == MasterDomain())) return LoadSiteSettings(domain);
+  LoadMasterSettings();
+  return LoadedDictionary(domain);
+}
+
+SettingsDictionary* SettingsManager::DictionaryToChange(
+    const SimpleString& domain) {
+  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  return IsUnread(domain) ? nullptr : dictionary;
+}
+
+SettingsDictionary* SettingsManager::LoadSiteSettings(
+    const SimpleString& site) {
+  if (!IsSiteName(site)) return nullptr;
+  std::unique_ptr<SettingsDictionary> read;
+  if (!ReadDictionary(site, &read)) return StandIn(site);
+  if (read) return SetDictionary(site, std::move(read));
   SettingsDictionary* empty =
-      AddDictionary(domain, new (std::nothrow) SettingsDictionary);
-  if (empty) SynchronizeSettingsForDomain(domain);
+      SetDictionary(site, std::make_unique<SettingsDictionary>());
+  SynchronizeSettingsForDomain(site);
   return empty;
 }
 
-bool SettingsManager::ReadDictionary(const SimpleString& domain,
-                                     SettingsDictionary** dictionary) const {
-  *dictionary = nullptr;
-  if (!mLayout.IsOnDisk()) return true;
+bool SettingsManager::ReadDictionary(
+    const SimpleString& domain,
+    std::unique_ptr<SettingsDictionary>* dictionary) {
+  const SimpleString file = mLayout.SettingsFileOf(domain);
   SimpleString* name = nullptr;
-  bool short_of_memory = false;
-  *dictionary =
-      ReadSettingsFile(mLayout.SettingsFileOf(domain), &name, &short_of_memory);
+  errno = 0;
+  if (!file.IsEmpty()) {
+    dictionary->reset(GetNewSettingsDataFromFile(file, &name));
+  }
+  const int error = *dictionary ? 0 : errno;
   delete name;
-  return *dictionary || !short_of_memory;
+  if (!LeavesContentUnknown(error)) {
+    mUnread.erase(domain.c_str());
+    return true;
+  }
+  if (mUnread.insert(domain.c_str()).second) {
+    std::fprintf(stderr, "SMSettingsManager: %s: %s\n",
+                 Printable(file.c_str()).c_str(), std::strerror(error));
+  }
+  return false;
 }
 
-SettingsDictionary* SettingsManager::AddDictionary(
-    const SimpleString& domain, SettingsDictionary* dictionary) {
-  std::unique_ptr<SettingsDictionary> owned(dictionary);
-  if (!owned || !owned->IsUsable()) return nullptr;
-  const auto added = mDomainSettings.insert(domain, owned.get());
-  return added == mDomainSettings.end() ? nullptr : owned.release();
+bool SettingsManager::IsUnread(const SimpleString& domain) const {
+  return !mUnread.empty() && mUnread.contains(domain.c_str());
+}
+
+SettingsDictionary* SettingsManager::StandIn(const SimpleString& domain) {
+  if (SettingsDictionary* standing_in = LoadedDictionary(domain)) {
+    return standing_in;
+  }
+  auto defaults = std::make_unique<SettingsDictionary>();
+  if (domain == MasterDomain()) {
+    InsertMissingDefaults(DefaultMasterSettings(), *defaults, defaults.get());
+    defaults->insert(kDomains, SettingDataItem(kDomains, new SDIVector));
+  } else {
+    InsertMissingDefaults(DefaultDomainSettings(),
+                          *EnsureSettingsAreLoadedForDomain(MasterDomain()),
+                          defaults.get());
+  }
+  return SetDictionary(domain, std::move(defaults));
+}
+
+SettingsDictionary* SettingsManager::SetDictionary(
+    const SimpleString& domain,
+    std::unique_ptr<SettingsDictionary> dictionary) {
+  mReplaced.emplace_back(LoadedDictionary(domain));
+  if (!mReplaced.back()) mReplaced.pop_back();
+  mDomainSettings.insert(domain, dictionary.get());
+  return dictionary.release();
 }
 
 void SettingsManager::DeleteAllDictionaries() {
   for (auto& entry : mDomainSettings) delete entry.value;
   mDomainSettings.clear();
-  std::ranges::fill(mLastUsed, nullptr);
+  mReplaced.clear();
+  mUnread.clear();
 }
 
 SettingsDictionary* SettingsManager::GetNewSettingsDataFromFile(
     const SimpleString& path, SimpleString** name) {
-  return ReadSettingsFile(path, name);
+  FileImage image;
+  if (!ReadFileImage(path, &image)) return nullptr;
+  errno = 0;
+  return SMImplementation::SettingsReader(image.bytes.get(), image.size)
+      .GetNewSettingsData(name);
 }
 
 bool SettingsManager::SynchronizeSettingsForDomain(const SimpleString& domain) {
   if (!mLayout.IsOnDisk()) return true;
+  if (!DictionaryToChange(domain)) return false;
   unsigned char* data = nullptr;
   unsigned long size = 0;
   SMImplementation::SettingsWriter(this, domain)
       .GetNewSettingsWithName(mLayout.DictionaryNameOf(domain), &data, size);
   const std::unique_ptr<unsigned char[]> image(data);
-  if (!image) return false;
-  // Before the old file goes, all is had that the new one needs.
-  const SimpleString file = mLayout.SettingsFileOf(domain);
-  if (!IsOfStore(file)) return false;
-  // What it cannot create, the writing will miss.
+  const FileDescriptor directory = OpenDirectoryOf(domain);
+  if (!image || !directory.IsOpen()) return false;
+  const auto replace = [&] {
+    return ReplaceFile(directory.Get(), StoreLayout::kSettingsFileName,
+                       {image.get(), size});
+  };
+  if (replace()) return true;
+  // A directory in the file's place.
+  return errno == EISDIR && DeleteDomainSettingsFile(domain, true) && replace();
+}
+
+FileDescriptor SettingsManager::OpenDirectoryOf(const SimpleString& domain) {
+  const SimpleString& base = mLayout.BaseDirectory();
+  const SimpleString way = mLayout.WayToDirectoryOf(domain);
+  FileDescriptor directory = OpenBelow(base.c_str(), way.c_str());
+  if (directory.IsOpen() || errno != ENOENT) return directory;
   (void)mFileManager->CreateDirectoryAtPath(mLayout.DirectoryOf(domain),
-                                            ThisDirectory());
-  return mFileManager->RemoveFileAtPath(file) &&
-         WriteFileImage(file, image.get(), size);
+                                            kThisDirectory);
+  return OpenBelow(base.c_str(), way.c_str());
 }
 
 bool SettingsManager::DeleteDomainSettingsFile(const SimpleString& domain,
                                                bool file_only) {
   if (!mLayout.IsOnDisk()) return true;
   const bool is_file = file_only || domain == MasterDomain();
-  if (!is_file && !StaysInside(domain)) return false;
   const SimpleString path =
       is_file ? mLayout.SettingsFileOf(domain) : mLayout.DirectoryOf(domain);
-  return IsOfStore(path) && mFileManager->RemoveFileAtPath(path);
-}
-
-bool SettingsManager::IsOfStore(const SimpleString& path) const {
-  return path.HasText() && !LeadsThroughLink(mLayout.SettingsDirectory(), path);
+  return !path.IsEmpty() && mFileManager->RemoveFileAtPath(path);
 }
 
 bool SettingsManager::HasSetting(const SimpleString& key,
@@ -145,16 +200,15 @@ SettingDataItem* SettingsManager::GetSetting(const SimpleString& key,
 
 bool SettingsManager::SetSetting(SettingDataItem* item, const SimpleString& key,
                                  const SimpleString& domain) {
-  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
-  SettingDataItem copy = *item;
-  if (!dictionary || !copy.IsWhole()) return false;
-  const auto stored = dictionary->insert(key, std::move(copy));
-  return stored != dictionary->end() && SynchronizeSettingsForDomain(domain);
+  SettingsDictionary* dictionary = DictionaryToChange(domain);
+  if (!dictionary) return false;
+  dictionary->insert(key, *item);
+  return SynchronizeSettingsForDomain(domain);
 }
 
 bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
                                            const SimpleString& domain) {
-  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
+  SettingsDictionary* dictionary = DictionaryToChange(domain);
   if (!dictionary) return false;
   const auto found = dictionary->find(key);
   if (found != dictionary->end()) dictionary->erase(found);
@@ -162,24 +216,29 @@ bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
 }
 
 StringVector* SettingsManager::GetNewSettingKeys(const SimpleString& domain) {
-  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
-  std::unique_ptr<StringVector> keys(
-      dictionary ? new (std::nothrow) StringVector : nullptr);
-  if (!keys) return nullptr;
-  for (const auto& entry : *dictionary) {
-    if (!keys->addElement(&entry.key)) return nullptr;
-  }
+  const SettingsDictionary* dictionary =
+      EnsureSettingsAreLoadedForDomain(domain);
+  if (!dictionary) return nullptr;
+  auto keys = std::make_unique<StringVector>();
+  for (const auto& entry : *dictionary) keys->addElement(&entry.key);
   return keys.release();
 }
 
 bool SettingsManager::LoadMasterSettingsFromDisk() {
-  SettingsDictionary* read = nullptr;
-  if (!ReadDictionary(MasterDomain(), &read)) return false;
   DeleteAllDictionaries();
-  SettingsDictionary* master = AddDictionary(
-      MasterDomain(), read ? read : new (std::nothrow) SettingsDictionary);
-  if (!master) return false;
-  if (!read) SynchronizeSettingsForDomain(MasterDomain());
+  return LoadMasterSettings();
+}
+
+bool SettingsManager::LoadMasterSettings() {
+  std::unique_ptr<SettingsDictionary> read;
+  if (!ReadDictionary(MasterDomain(), &read)) {
+    StandIn(MasterDomain());
+    return false;
+  }
+  const bool is_new = !read;
+  SetDictionary(MasterDomain(), is_new ? std::make_unique<SettingsDictionary>()
+                                       : std::move(read));
+  if (is_new) SynchronizeSettingsForDomain(MasterDomain());
   WriteOrUpdateDefaultMasterSettings();
   if (!StoredDomains()) StoreEmptyDomains();
   VerifyDomainsList();
@@ -193,56 +252,17 @@ bool SettingsManager::WriteOrUpdateDefaultMasterSettings() {
 
 bool SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
                                     const SimpleString& domain) {
-  SettingsDictionary* dictionary = EnsureSettingsAreLoadedForDomain(domain);
-  const SettingsDictionary* master =
-      EnsureSettingsAreLoadedForDomain(MasterDomain());
-  return dictionary && master &&
-         InsertMissingDefaults(rows, *master, dictionary);
-}
-
-SDIVector* SettingsManager::StoredDomains() {
-  return ArrayOrNull(GetSetting(DomainsKey(), MasterDomain()));
-}
-
-bool SettingsManager::StoreEmptyDomains() {
-  const SDIVector empty;
-  SettingDataItem item(kDomains, kSettingsDataTypeArray, &empty);
-  return SetSetting(&item, DomainsKey(), MasterDomain());
-}
-
-SDIVector* SettingsManager::GetDomains() {
-  if (!StoredDomains()) LoadMasterSettingsFromDisk();
-  return StoredDomains();
-}
-
-void SettingsManager::VerifyDomainsList() {
-  // Not GetDomains: it would load the settings that are being loaded.
-  SDIVector* domains = StoredDomains();
-  if (!domains || !mLayout.IsOnDisk()) return;
-  domains->removeElementsIf([this](const void* element) {
-    const auto* domain = static_cast<const SettingDataItem*>(element);
-    return !HasSettingsFile(domain->name, mLayout, *mFileManager);
-  });
+  SettingsDictionary* dictionary = DictionaryToChange(domain);
+  if (!dictionary) return false;
+  InsertMissingDefaults(rows, *EnsureSettingsAreLoadedForDomain(MasterDomain()),
+                        dictionary);
+  return true;
 }
 
 bool SettingsManager::WriteOrUpdateSettingsForDomain(
     const SimpleString& domain) {
   return InsertMissing(DefaultDomainSettings(), domain) &&
          SynchronizeSettingsForDomain(domain);
-}
-
-bool SettingsManager::AddDomainWithDefaultSettings(const SimpleString& domain) {
-  SDIVector* domains = GetDomains();
-  if (!domains) return false;
-  for (unsigned int i = 0; i < domains->count; ++i) {
-    if (domains->At(i)->name == domain) return true;
-  }
-  if (!WriteOrUpdateSettingsForDomain(domain)) return false;
-  const bool listed = true;  // the name says it all
-  const SettingDataItem element(domain, kSettingsDataTypeBool, &listed);
-  // The list is changed in place: to store it is to write it.
-  return domains->addElement(&element) &&
-         SynchronizeSettingsForDomain(MasterDomain());
 }
 
 }  // namespace SASM

@@ -1,4 +1,5 @@
 // Removal of site data, and sizes.
+#include <cerrno>
 #include <memory>
 
 #include "store/settings_manager.h"
@@ -7,8 +8,7 @@
 namespace SASM {
 
 bool SettingsManager::DeleteDomainStorage(const SimpleString& domain) {
-  if (!StaysInside(domain)) return false;
-  if (!mLayout.IsOnDisk()) return true;
+  if (!IsSiteName(domain)) return false;
   return mFileManager->RemoveFileAtPath(mLayout.LocalStorageOf(domain));
 }
 
@@ -16,20 +16,22 @@ bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,
                                               bool remove_settings,
                                               bool remove_storage) {
   const bool is_master = domain == MasterDomain();
+  if (remove_settings && !DictionaryToChange(MasterDomain())) return false;
   const bool storage_removed =
       !remove_storage || is_master || DeleteDomainStorage(domain);
   if (!remove_settings || !storage_removed) return storage_removed;
   if (!DeleteDomainSettingsFile(domain, false)) return false;
   if (is_master) return true;
-  SDIVector* domains = GetDomains();
-  if (!domains) return false;
-  for (unsigned int i = domains->count; i-- > 0;) {
-    if (!(domains->At(i)->name == domain)) continue;
-    domains->removeElementAtIndex(i);
-    break;
-  }
-  // The list is changed in place: to store it is to write it.
-  return SynchronizeSettingsForDomain(MasterDomain());
+  RemoveEmptyDirectoriesAbove(domain);
+  Unlist(domain);
+  return StoreDomains();
+}
+
+void SettingsManager::RemoveEmptyDirectoriesAbove(const SimpleString& site) {
+  const SimpleString top = mLayout.TopDirectoryOf(site);
+  if (top == mLayout.DirectoryOf(site)) return;
+  // Takes no file, since no age lies between the bounds.
+  (void)mFileManager->RemoveFilesInDirectoryInDateRange(top, 0, 0);
 }
 
 bool SettingsManager::RemoveAllSettingsAndOrLocalStorage(bool remove_settings,
@@ -40,8 +42,9 @@ bool SettingsManager::RemoveAllSettingsAndOrLocalStorage(bool remove_settings,
 }
 
 bool SettingsManager::RemoveAllSettings() {
-  const bool removed = !mLayout.IsOnDisk() || mFileManager->RemoveFileAtPath(
-                                                  mLayout.SettingsDirectory());
+  if (!DictionaryToChange(MasterDomain())) return false;
+  const bool removed =
+      mFileManager->RemoveFileAtPath(mLayout.SettingsDirectory());
   // Writing creates the directory again, with the global settings in it.
   StoreEmptyDomains();
   SynchronizeSettingsForDomain(MasterDomain());
@@ -49,12 +52,12 @@ bool SettingsManager::RemoveAllSettings() {
 }
 
 bool SettingsManager::RemoveAllLocalStorage() {
-  if (!mLayout.IsOnDisk()) return true;
   const SimpleString root = mLayout.LocalStorageRoot();
+  errno = 0;
   const std::unique_ptr<StringVector> names(
       mFileManager->CreateNewListOfDirectoryContents(root));
-  bool removed = names != nullptr;
-  for (unsigned int i = 0; names && i < names->count; ++i) {
+  bool removed = errno == 0 || errno == ENOENT;
+  for (unsigned int i = 0; i < names->count; ++i) {
     const SimpleString entry = mLayout.Join(root, names->TextAt(i));
     removed = mFileManager->RemoveFileAtPath(entry) && removed;
   }
@@ -65,15 +68,16 @@ bool SettingsManager::RemoveAllSettingsAndOrLocalStorageForTimeRange(
     bool remove_settings, bool remove_storage, unsigned long lower_age_seconds,
     unsigned long upper_age_seconds) {
   const auto remove_below = [&](const SimpleString& directory) {
-    return !mLayout.IsOnDisk() ||
-           mFileManager->RemoveFilesInDirectoryInDateRange(
-               directory, lower_age_seconds, upper_age_seconds);
+    return mFileManager->RemoveFilesInDirectoryInDateRange(
+        directory, lower_age_seconds, upper_age_seconds);
   };
   bool removed = true;
-  if (remove_settings) {
+  if (remove_settings && !DictionaryToChange(MasterDomain())) {
+    removed = false;
+  } else if (remove_settings) {
     removed = remove_below(mLayout.SettingsDirectory());
     DeleteAllDictionaries();
-    AddDictionary(MasterDomain(), new (std::nothrow) SettingsDictionary);
+    SetDictionary(MasterDomain(), std::make_unique<SettingsDictionary>());
     SynchronizeSettingsForDomain(MasterDomain());
   }
   if (!remove_storage) return removed;
@@ -91,7 +95,6 @@ std::uint64_t SettingsManager::SizeOfLocalStorage(
 
 std::uint64_t SettingsManager::SizeOfSettings(
     const SimpleString& domain) const {
-  if (!StaysInside(domain)) return 0;
   return mFileManager->SizeOfFileAtPath(domain == MasterDomain()
                                             ? mLayout.SettingsFileOf(domain)
                                             : mLayout.DirectoryOf(domain));

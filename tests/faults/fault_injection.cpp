@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -26,6 +27,7 @@ struct State {
   faults::Fault fault = {};
   int calls_left = 0;
   bool met = false;
+  bool is_full = false;  // the disk, until a file is removed
 };
 State state;
 
@@ -35,6 +37,7 @@ enum class Verdict { kPass, kFail, kHalf, kHalfThenEnd };
 Verdict MeetFault() {
   using faults::Effect;
   state.met = true;
+  state.is_full = state.fault.effect == Effect::kDiskFull;
   switch (state.fault.effect) {
     case Effect::kFail:
     case Effect::kFailOnwards:
@@ -54,12 +57,12 @@ Verdict MeetFault() {
 unsigned int LaterFailures() {
   using faults::Effect;
   if (state.fault.effect == Effect::kFailOnwards) return state.fault.calls;
-  const bool is_full = state.fault.effect == Effect::kDiskFull;
-  return is_full ? faults::kWrite | faults::kMkdir | faults::kCreate : 0U;
+  return state.is_full ? faults::kWrite | faults::kMkdir | faults::kCreate : 0U;
 }
 
 Verdict Judge(unsigned int call) {
   if (!state.armed) return Verdict::kPass;
+  if (call & faults::kUnlink) state.is_full = false;
   if (state.met) {
     return call & LaterFailures() ? Verdict::kFail : Verdict::kPass;
   }
@@ -98,7 +101,7 @@ Result Pass(unsigned int call, Result (*)(Arguments...), const char* name,
 
 namespace faults {
 
-void Arm(const Fault& fault, int n) { state = {true, fault, n, false}; }
+void Arm(const Fault& fault, int n) { state = {true, fault, n}; }
 
 bool Disarm() {
   state.armed = false;
@@ -171,23 +174,29 @@ int close(int file) {
   return Fails(faults::kClose) ? -1 : result;
 }
 
-int mkdir(const char* path, mode_t mode) {
-  return Pass(faults::kMkdir, mkdir, "mkdir", -1, path, mode);
+// The one that the program has no function for.
+long syscall(long number, ...) {
+  va_list arguments;
+  va_start(arguments, number);
+  const int directory = va_arg(arguments, int);
+  const char* path = va_arg(arguments, const char*);
+  void* how = va_arg(arguments, void*);
+  const std::size_t size = va_arg(arguments, std::size_t);
+  va_end(arguments);
+  static auto* next = Next<long(long, ...)>("syscall");
+  const bool fails =
+      number == SYS_openat2 && Fails(faults::kOpen | faults::kOpenat2);
+  return fails ? -1 : next(number, directory, path, how, size);
 }
-int unlink(const char* path) {
-  return Pass(faults::kUnlink, unlink, "unlink", -1, path);
-}
-int rmdir(const char* path) {
-  return Pass(faults::kRmdir, rmdir, "rmdir", -1, path);
+
+int mkdirat(int directory, const char* path, mode_t mode) {
+  return Pass(faults::kMkdir, mkdirat, "mkdirat", -1, directory, path, mode);
 }
 int unlinkat(int directory, const char* path, int flags) {
   const auto call = flags & AT_REMOVEDIR ? faults::kRmdir : faults::kUnlink;
   return Pass(call, unlinkat, "unlinkat", -1, directory, path, flags);
 }
 
-DIR* opendir(const char* path) {
-  return Pass(faults::kOpendir, opendir, "opendir", nullptr, path);
-}
 DIR* fdopendir(int directory) {
   return Pass(faults::kOpendir, fdopendir, "fdopendir", nullptr, directory);
 }
@@ -199,14 +208,8 @@ ssize_t getdents64(int directory, void* buffer, std::size_t size) {
               size);
 }
 
-int access(const char* path, int mode) {
-  return Pass(faults::kStat, access, "access", -1, path, mode);
-}
 int stat(const char* path, struct stat* info) {
   return Pass(faults::kStat, stat, "stat", -1, path, info);
-}
-int lstat(const char* path, struct stat* info) {
-  return Pass(faults::kStat, lstat, "lstat", -1, path, info);
 }
 int fstat(int file, struct stat* info) {
   return Pass(faults::kStat, fstat, "fstat", -1, file, info);

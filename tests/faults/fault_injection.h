@@ -7,7 +7,7 @@ namespace faults {
 
 // The calls that can fail. The values are bits: a fault can cover several.
 enum Call : unsigned int {
-  kOpen = 1 << 0,  // open and openat
+  kOpen = 1 << 0,  // open, openat and openat2
   kRead = 1 << 1,
   kWrite = 1 << 2,
   kClose = 1 << 3,
@@ -16,9 +16,10 @@ enum Call : unsigned int {
   kRmdir = 1 << 6,
   kOpendir = 1 << 7,
   kReaddir = 1 << 8,    // readdir and getdents64
-  kStat = 1 << 9,       // stat, fstat, fstatat and access
+  kStat = 1 << 9,       // stat, fstat and fstatat
   kAllocate = 1 << 10,  // malloc, calloc, realloc, and so operator new
-  kCreate = 1 << 11,    // the open calls that create or empty a file
+  kOpenat2 = 1 << 12,
+  kCreate = 1 << 11,  // the open calls that create or empty a file
 
   // The calls that change the disk.
   kChangesDisk = kCreate | kWrite | kMkdir | kUnlink | kRmdir,
@@ -28,7 +29,9 @@ enum class Effect {
   kFail,         // the call fails
   kFailOnwards,  // the call and all later ones fail
   kShortWrite,   // the call writes half of its bytes
-  kDiskFull,     // the call writes half of its bytes, later ones nothing
+  // The call writes half of its bytes, later ones nothing until a file is
+  // removed.
+  kDiskFull,
   kKill,         // the process ends before the call
   kKillHalfway,  // the process ends after half of the bytes
 };

@@ -11,12 +11,14 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "platform/file_descriptor.h"
 #include "store/settings_manager.h"
 #include "tests/support/home_file_manager.h"
 #include "tests/support/privileges.h"
+#include "tests/support/settings_image.h"
 
 namespace fs = std::filesystem;
 
@@ -46,6 +48,14 @@ class Removal : public testing::Test {
     const fs::path link = home_ / name;
     fs::create_directories(link.parent_path());
     fs::create_directory_symlink(home_ / "precious", link);
+  }
+
+  TemporaryHome::Snapshot Precious() const {
+    TemporaryHome::Snapshot files;
+    for (const auto& [name, bytes] : home_.Take()) {
+      if (name.starts_with("precious")) files[name] = bytes;
+    }
+    return files;
   }
 
   TemporaryHome home_;
@@ -90,8 +100,8 @@ void MakeTree(const fs::path& top) {
 
 class Attacker {
  public:
-  explicit Attacker(const fs::path& home) : process_(fork()) {
-    if (process_ == 0) Attack(home.string());
+  explicit Attacker(const std::function<void()>& attack) : process_(fork()) {
+    if (process_ == 0) attack();
   }
   ~Attacker() {
     kill(process_, SIGKILL);
@@ -107,7 +117,7 @@ class Attacker {
 TEST_F(Removal, UnderAttackNeverReachesWhatLinksLeadTo) {
   MakeTree(home_ / "precious");
   const std::vector<std::string> precious = home_.List();
-  std::optional<Attacker> attacker(home_.Path());
+  std::optional<Attacker> attacker([this] { Attack(home_.Path()); });
   testing::internal::CaptureStderr();
   for (int i = 0; i < RemovalCount(); ++i) {
     const fs::path fresh = home_ / ("fresh" + std::to_string(i));
@@ -218,49 +228,88 @@ TEST_F(Removal, OfOddThingsInPlacesOfSettingsFilesTouchesNothingElse) {
   }
 }
 
-TEST_F(Removal, OfASiteWhoseDirectoryIsALinkTakesTheLinkOnly) {
-  home_.Write("precious/settings.sol", "precious");
-  const std::string link = std::string(TemporaryHome::kSettings) + "/#" + kSite;
-  LinkToPrecious(link);
-  SASM::SettingsManager manager(&files_);
-  EXPECT_FALSE(manager.AddDomainWithDefaultSettings(kSite));
-  EXPECT_FALSE(manager.HasSetting("nothing", kSite));
-  EXPECT_EQ(home_.Read("precious/settings.sol"), "precious");
-  EXPECT_TRUE(manager.RemoveDomainInformation(kSite, true, true));
-  EXPECT_FALSE(home_.Has(link));
-  EXPECT_EQ(home_.Read("precious/settings.sol"), "precious");
-}
-
-TEST_F(Removal, OfStoredDataNeverGoesThroughALinkToIt) {
+TEST_F(Removal, AndEveryChangeStopAtALinkOnTheWay) {
+  const std::string base = ".orbelline/Corvane_Player";
   const std::string stored = TemporaryHome::kSharedObjects;
-  home_.Write("precious/site.example/file", "precious");
-  LinkToPrecious(stored + "/A");
-  testing::internal::CaptureStderr();
-  SASM::SettingsManager manager(&files_);
-  EXPECT_FALSE(manager.DeleteDomainStorage(kSite));
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "RemoveFilesRecursively: stat: Not a directory\n");
-  EXPECT_TRUE(manager.RemoveAllSettingsAndOrLocalStorage(true, true));
-  EXPECT_FALSE(home_.Has(stored + "/A"));
-  LinkToPrecious(stored + "/B");
-  // Behind a "/" a link would be what it leads to.
-  EXPECT_TRUE(manager.DeleteDomainStorage("B/"));
-  EXPECT_EQ(home_.Read("precious/site.example/file"), "precious");
+  const std::string settings = TemporaryHome::kSettings;
+  const std::vector<std::string> links = {
+      stored,   stored + "/A",           stored + "/A/sub",
+      settings, settings + "/#" + kSite, base + "/tessary.example"};
+  const image::Bytes limit = image::Entry("klimit", image::Number(3));
+  for (const std::string& link : links) {
+    SCOPED_TRACE(link);
+    fs::remove_all(home_ / base);
+    home_.Write(stored + "/A/sub/data", "x");
+    fs::remove_all(home_ / link);
+    for (const char* name : {"settings.sol", "#site.example/settings.sol",
+                             "support/corvaneplayer/sys/settings.sol"}) {
+      home_.Write(std::string("precious/") + name, image::File("n", limit));
+    }
+    home_.Write("precious/site.example", "a file");
+    LinkToPrecious(link);
+    const TemporaryHome::Snapshot precious = Precious();
+    testing::internal::CaptureStderr();
+    SASM::SettingsManager manager(&files_);
+    (void)manager.AddDomainWithDefaultSettings(kSite);
+    SASM::SettingDataItem item("klimit", 1.0);
+    (void)manager.SetSetting(&item, "klimit", kSite);
+    (void)manager.RemoveDomainInformation(kSite, true, true);
+    (void)manager.RemoveDomainInformation("sub/site.example", true, true);
+    (void)manager.RemoveAllSettingsAndOrLocalStorageForTimeRange(true, true, 0,
+                                                                 1UL << 40);
+    EXPECT_EQ(manager.RemoveAllSettingsAndOrLocalStorage(true, true),
+              link != stored && link != base + "/tessary.example");
+    (void)testing::internal::GetCapturedStderr();
+    EXPECT_EQ(Precious(), precious);
+  }
 }
 
-TEST_F(Removal, AndEverythingElseRefusesNamesThatLeadOutside) {
-  home_.Write(".orbelline/Corvane_Player/precious/settings.sol", "precious");
+TEST_F(Removal, LetsTheDataDirectoriesBeLinks) {
+  home_.Write("elsewhere/data", "x");
+  fs::create_directories(home_ / "elsewhere/settings");
+  fs::create_directories(home_ / ".orbelline");
+  fs::create_directory_symlink(home_ / "elsewhere/settings",
+                               home_ / ".orbelline/Corvane_Player");
   SASM::SettingsManager manager(&files_);
-  const std::vector<std::string> before = home_.List();
-  for (const char* name :
-       {"../../../../../precious", "a/../../../../../../precious", "x/..",
-        "/../../../../../precious"}) {
-    SCOPED_TRACE(name);
-    EXPECT_FALSE(manager.AddDomainWithDefaultSettings(name));
-    EXPECT_FALSE(manager.RemoveDomainInformation(name, true, true));
-    EXPECT_FALSE(manager.RemoveSettingWithKey("klimit", name));
+  EXPECT_TRUE(manager.AddDomainWithDefaultSettings(kSite));
+  EXPECT_TRUE(manager.RemoveDomainInformation(kSite, true, true));
+  EXPECT_TRUE(manager.RemoveAllSettingsAndOrLocalStorage(true, true));
+  EXPECT_TRUE(home_.Has("elsewhere/data"));
+}
+
+// Puts links and hard links to a precious file where settings are written,
+// and exchanges the site's directory with a link, until it is killed.
+[[noreturn]] void AttackSettings(const TemporaryHome& home) {
+  const fs::path site =
+      home / (std::string(TemporaryHome::kSettings) + "/#" + kSite);
+  const fs::path precious = home / "precious/settings.sol";
+  const std::string swap = home / "swap";
+  for (std::error_code ignored;;) {
+    fs::create_hard_link(precious, site / "settings.sol", ignored);
+    fs::create_symlink(precious, site / "settings.sol", ignored);
+    for (int back_and_forth = 0; back_and_forth < 2; ++back_and_forth) {
+      (void)renameat2(AT_FDCWD, site.c_str(), AT_FDCWD, swap.c_str(),
+                      RENAME_EXCHANGE);
+    }
   }
-  EXPECT_EQ(home_.List(), before);
+}
+
+TEST_F(Removal, AndChangesUnderAttackNeverReachWhatLinksLeadTo) {
+  home_.Write("precious/settings.sol", "precious");
+  LinkToPrecious("swap");
+  SASM::SettingsManager manager(&files_);
+  EXPECT_TRUE(manager.AddDomainWithDefaultSettings(kSite));
+  testing::internal::CaptureStderr();
+  {
+    const Attacker attacker([this] { AttackSettings(home_); });
+    for (int i = 0; i < RemovalCount(); ++i) {
+      SASM::SettingDataItem item("klimit", double(i));
+      (void)manager.SetSetting(&item, "klimit", kSite);
+    }
+  }
+  (void)testing::internal::GetCapturedStderr();
+  EXPECT_EQ(home_.Read("precious/settings.sol"), "precious");
+  EXPECT_EQ(home_.List().front(), ".orbelline");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "model/storage_setting.h"
 #include "tests/support/store_test.h"
+#include "tests/support/call_hooks.h"
 
 namespace {
 
@@ -71,12 +72,10 @@ TEST_F(Setting, PermissionIsWrittenAlwaysFirst) {
   EXPECT_EQ(setting.getState(), kAsk);
   for (const auto& c : cases) {
     SCOPED_TRACE(c.then);
-    std::string before;  // the last removal
-    files_.before_removal = [&](const std::string&) {
-      before = SiteOnDisk("a");
-      return true;
-    };
+    std::string before;  // the last file that goes
+    before_unlink = [&](auto&, auto&) { before = SiteOnDisk("a"); };
     setting.setState(c.state);
+    before_unlink = nullptr;
     EXPECT_EQ(before, c.first);
     EXPECT_EQ(SiteOnDisk("a"), c.then);
     EXPECT_EQ(setting.getState(), c.state == kNone ? kBlock : c.state);
@@ -150,18 +149,16 @@ TEST_F(StorageLimit, ReachesListedSitesAndTheirDataWhenCommitted) {
   BeginModel({"a", "b", "other"});
   EXPECT_TRUE(Of("other").setPermissionState(kBlock).commit());
   EXPECT_TRUE(!HasData("other") && HasData("a") && HasData("b"));
-  // A file may list the master domain, and a user may add it as a site.
-  EXPECT_TRUE(manager_->AddDomainWithDefaultSettings(master));
   for (const auto& c : cases) {
     SCOPED_TRACE(c.stored);
     std::string order;
-    files_.before_removal = [&](const std::string& path) {
-      const auto name = std::filesystem::path(path).parent_path().filename();
-      if (path.ends_with(".sol")) order += name.string() + " ";
-      return true;
+    before_unlink = [&](const std::string& directory, const auto& name) {
+      if (!name.ends_with(".sol")) return;
+      order += std::filesystem::path(directory).filename().string() + " ";
     };
     StorageSetting of_all("defaultklimit", master);
     EXPECT_TRUE(of_all.setPermissionState(c.state).commit());
+    before_unlink = nullptr;
     EXPECT_EQ(order, "sys #a #b #other ");
     EXPECT_EQ(of_all.getValue(), c.stored);
     for (const char* site : {"a", "b"}) {

@@ -7,6 +7,7 @@
 #include <ctime>
 #include <filesystem>
 
+#include "platform/tree_size.h"
 #include "tests/support/home_file_manager.h"
 #include "tests/support/privileges.h"
 
@@ -107,6 +108,14 @@ TEST_F(Tree, HasTheSizeOfItsFilesAndDirectories) {
   EXPECT_EQ(SizeOf("d"), 3 * Own("d") + Own("d/e") + 23 + kHuge);
 }
 
+// What "work" leaves on the clock, in seconds.
+template <typename Work>
+double ProcessorTime(Work work) {
+  const std::clock_t start = std::clock();
+  work();
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
 TEST_F(Tree, IsMeasuredSoonHoweverManyWaysThereAre) {
   // Each directory points to the next one thrice.
   for (int i = 0; i < 40; ++i) {
@@ -116,6 +125,30 @@ TEST_F(Tree, IsMeasuredSoonHoweverManyWaysThereAre) {
     for (const char* link : {"/a", "/b", "/c"}) Link(next, name + link);
   }
   EXPECT_GT(SizeOf("ring"), 40 * Own("ring/0"));
+  // A chain in which only links lead on.
+  constexpr int kLength = 3000;
+  for (int i = 0; i < kLength; ++i) {
+    fs::create_directories(home_ / ("chain/" + std::to_string(i)));
+    Link(home_ / ("chain/" + std::to_string(i + 1)),
+         "chain/" + std::to_string(i) + "/next");
+  }
+  fs::create_directory(home_ / ("chain/" + std::to_string(kLength)));
+  // Nested, each with a link to the one below.
+  constexpr int kDepth = 1000;
+  std::string nested = "n";
+  fs::create_directory(home_ / nested);
+  for (int i = 1; i < kDepth; ++i) {
+    Link("d", nested + "/l");
+    nested += "/d";
+    fs::create_directory(home_ / nested);
+  }
+  const double seconds = ProcessorTime([this] {
+    EXPECT_EQ(SizeOf("chain/0"), Own("chain/0") + kLength * Own("n"));
+    EXPECT_EQ(SizeOf("n"), ~std::uint64_t{0});
+    const SharedMeasurement once;
+    for (int i = 0; i < 50000; ++i) (void)SizeOf("ring");
+  });
+  EXPECT_LT(seconds, 0.6);
 }
 
 TEST_F(Tree, NeedsLittleStackAndFewDescriptorsHoweverDeep) {

@@ -45,29 +45,85 @@ TEST_F(StoreRemoval, OfTheMasterDomainTakesItsFileAlone) {
   EXPECT_THAT(ListedOnDisk(), ElementsAre("a"));
 }
 
-TEST_F(StoreRemoval, RefusesNamesThatLeadOutside) {
-  Begin({"a"});
-  const std::string precious = std::string(TemporaryHome::kSettings) + "/x";
-  home_.Write(precious, "x");
-  const std::vector<std::string> before = home_.List();
-  for (const char* name : {"", ".", "..", "/etc", "../a", "a/..", "a/./b",
-                           "a/../../..", "..//", "a/.", "./a"}) {
+TEST_F(StoreRemoval, AndEverythingElseRefusesWhatIsNoSiteName) {
+  const std::vector<std::string> names = {"",
+                                          ".",
+                                          "..",
+                                          "/",
+                                          "//x",
+                                          "/etc",
+                                          "../a",
+                                          "a/..",
+                                          "a/./b",
+                                          "..//",
+                                          "a/../../..",
+                                          "a/.",
+                                          "./a",
+                                          "a/",
+                                          "a//b",
+                                          "../#keep.example",
+                                          "___MASTER_DOMAIN"};
+  PanelHome::Names listed = {"a"};
+  listed.insert(listed.end(), names.begin() + 1, names.end());
+  home_.AddSites({"a"});
+  WriteMaster(Entry("domains", Array(Flags(listed))));
+  home_.Write(std::string(TemporaryHome::kSettings) + "/x", "x");
+  Start();
+  EXPECT_THAT(Listed(), ElementsAre("a"));
+  const TemporaryHome::Snapshot before = home_.Take();
+  for (const std::string& name : names) {
     SCOPED_TRACE(name);
-    EXPECT_FALSE(manager_->DeleteDomainStorage(name));
-    EXPECT_FALSE(manager_->DeleteDomainSettingsFile(name, false));
-    EXPECT_FALSE(manager_->RemoveDomainInformation(name, true, false));
-    EXPECT_FALSE(manager_->RemoveDomainInformation(name, true, true));
-    EXPECT_EQ(manager_->SizeOfLocalStorage(name), 0u);
-    EXPECT_EQ(manager_->SizeOfSettings(name), 0u);
+    EXPECT_FALSE(manager_->AddDomainWithDefaultSettings(name.c_str()));
+    if (name.starts_with("___")) continue;
+    EXPECT_FALSE(SetNumber("klimit", 1, name));
+    EXPECT_FALSE(manager_->HasSetting("klimit", name.c_str()));
+    EXPECT_FALSE(manager_->RemoveSettingWithKey("klimit", name.c_str()));
+    EXPECT_FALSE(manager_->DeleteDomainStorage(name.c_str()));
+    EXPECT_FALSE(manager_->DeleteDomainSettingsFile(name.c_str(), false));
+    EXPECT_FALSE(manager_->RemoveDomainInformation(name.c_str(), true, true));
+    EXPECT_EQ(manager_->SizeOfLocalStorage(name.c_str()), 0u);
+    EXPECT_EQ(manager_->SizeOfSettings(name.c_str()), 0u);
   }
-  EXPECT_EQ(home_.List(), before);
-  for (const std::string name : {"a/b", "...", "..a", "a..", "a b", "#", "~"}) {
+  EXPECT_EQ(home_.Take(), before);
+}
+
+TEST_F(StoreRemoval, OfASiteWithSlashesLeavesNoEmptyDirectory) {
+  Begin({"a"});
+  for (const std::string name :
+       {"a/b/c", "b/c/d", "...", "..a", "a..", "a b", "#", "~", "a/..."}) {
     SCOPED_TRACE(name);
+    const std::vector<std::string> before = home_.List();
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings(name.c_str()));
+    EXPECT_THAT(Listed(), ElementsAre("a", name));
+    EXPECT_TRUE(manager_->RemoveDomainInformation(name.c_str(), true, true));
+    EXPECT_EQ(home_.List(), before);
     home_.Write(Storage(name) + "/data", "x");
     EXPECT_GT(manager_->SizeOfLocalStorage(name.c_str()), 1u);
     EXPECT_TRUE(manager_->DeleteDomainStorage(name.c_str()));
     EXPECT_FALSE(home_.Has(Storage(name)));
   }
+}
+
+TEST_F(StoreRemoval, OfManySitesWritesTheListOnce) {
+  Begin({"a", "b", "c", "b", "d"});
+  {
+    SASM::ListWriteGuard outer(&*manager_);
+    SASM::ListWriteGuard inner(&*manager_);
+    const TemporaryHome::Snapshot before = home_.Take();
+    for (const char* site : {"b", "d"}) {
+      EXPECT_TRUE(manager_->RemoveDomainInformation(site, true, true));
+    }
+    EXPECT_TRUE(manager_->IsListed("b") && !manager_->IsListed("d"));
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("e"));
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("d")) << "once more";
+    EXPECT_TRUE(manager_->IsListed("d") && manager_->IsListed("e"));
+    EXPECT_TRUE(inner.Finish());
+    EXPECT_EQ(Master(), before.at(TemporaryHome::MasterFile()));
+    EXPECT_TRUE(outer.Finish());
+    EXPECT_THAT(ListedOnDisk(), ElementsAre("a", "b", "c", "d", "e"));
+    home_.Write(TemporaryHome::MasterFile(), "untouched");
+  }
+  EXPECT_EQ(Master(), "untouched");
 }
 
 TEST_F(StoreRemoval, OfEverythingKeepsTheGlobalSettings) {

@@ -1,3 +1,4 @@
+#include "tests/support/call_hooks.h"
 #include "tests/support/privileges.h"
 #include "tests/support/store_test.h"
 
@@ -79,6 +80,96 @@ TEST_F(MasterSettings, DropSitesWithoutAFileFromMemoryOnly) {
   EXPECT_THAT(ListedOnDisk(), ElementsAre("a", "b", "c", "d"));
   EXPECT_TRUE(manager_->WriteOrUpdateDefaultMasterSettings());
   EXPECT_THAT(ListedOnDisk(), ElementsAre("b", "d"));
+}
+
+TEST_F(MasterSettings, StayWhenAPassingErrorKeepsThemFromBeingRead) {
+  Begin({"a", "b"});
+  EXPECT_TRUE(SetNumber("defaultklimit", 5, "___MASTER_DOMAIN"));
+  EXPECT_TRUE(SetNumber("klimit", 7, "b"));
+  const TemporaryHome::Snapshot before = home_.Take();
+  testing::internal::CaptureStderr();
+  {
+    const LoweredLimit no_more_descriptors(RLIMIT_NOFILE, 0);
+    Start();
+    EXPECT_EQ(Held("defaultklimit"), "defaultklimit=100");
+    EXPECT_EQ(Held("klimit", "b"), "klimit=100");
+    EXPECT_FALSE(SetNumber("klimit", 1, "b"));
+    EXPECT_FALSE(SetNumber("defaultklimit", 1, "___MASTER_DOMAIN"));
+    EXPECT_FALSE(manager_->AddDomainWithDefaultSettings("c"));
+    EXPECT_FALSE(manager_->RemoveDomainInformation("a", true, true));
+    EXPECT_FALSE(manager_->RemoveAllSettingsAndOrLocalStorage(true, false));
+    EXPECT_FALSE(manager_->RemoveAllSettingsAndOrLocalStorageForTimeRange(
+        true, false, 0, 1UL << 40));
+    EXPECT_FALSE(manager_->WriteOrUpdateDefaultMasterSettings());
+    EXPECT_THAT(Listed(), IsEmpty());
+  }
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "SMSettingsManager: " + (home_ / TemporaryHome::MasterFile()) +
+                ": Too many open files\nSMSettingsManager: " +
+                (home_ / TemporaryHome::SettingsFileOf("b")) +
+                ": Too many open files\n");
+  EXPECT_EQ(home_.Take(), before);
+  EXPECT_EQ(Held("klimit", "b"), "klimit=7") << "tried again";
+  EXPECT_EQ(Held("defaultklimit"), "defaultklimit=5");
+  EXPECT_THAT(Listed(), ElementsAre("a", "b"));
+}
+
+TEST_F(MasterSettings, StayWhileTheirWriterRemovesAndRewritesThem) {
+  Begin({"a"});
+  EXPECT_TRUE(SetNumber("defaultklimit", 5, "___MASTER_DOMAIN"));
+  const std::string files[] = {TemporaryHome::MasterFile(),
+                               TemporaryHome::SettingsFileOf("a")};
+  const std::string whole[] = {Master(), SiteFile("a")};
+  for (const char* meanwhile : {"missing", "", "\x00\xBF\x00"}) {
+    for (int i = 0; i < 2; ++i) {
+      SCOPED_TRACE(meanwhile + files[i]);
+      fs::remove(home_ / files[i]);
+      if (*meanwhile != 'm') home_.Write(files[i], meanwhile);
+      instead_of_waiting = [&] { home_.Write(files[i], whole[i]); };
+      testing::internal::CaptureStderr();
+      Start();
+      EXPECT_EQ(Held("defaultklimit"), "defaultklimit=5");
+      EXPECT_THAT(Listed(), ElementsAre("a"));
+      EXPECT_EQ(Held("klimit", "a"), "klimit=100");
+      instead_of_waiting = nullptr;
+      (void)testing::internal::GetCapturedStderr();
+    }
+  }
+}
+
+TEST_F(SiteSettings, StayWhereFewDescriptorsAreLeft) {
+  Begin({"a"});
+  EXPECT_TRUE(SetNumber("klimit", 0, "a"));
+  const FileDescriptor first_free(dup(STDIN_FILENO));
+  double stored = 0;
+  for (rlim_t few = 0; few < 6; ++few) {
+    SCOPED_TRACE(few);
+    bool is_changed = false;
+    {
+      const LoweredLimit limit(RLIMIT_NOFILE,
+                               static_cast<rlim_t>(first_free.Get()) + few);
+      is_changed = SetNumber("klimit", stored + 1, "a");
+    }
+    EXPECT_EQ(is_changed, few > 2);
+    if (is_changed) ++stored;
+    EXPECT_THAT(SiteOnDisk("a"),
+                testing::HasSubstr("klimit=" + std::to_string(int(stored))));
+  }
+}
+
+TEST_F(SiteSettings, ComeBackWhenNewOnesDoNotFit) {
+  Begin({"a"});
+  const std::string long_text(4000, 'x');
+  const SASM::SimpleString text(long_text.c_str());
+  SASM::SettingDataItem item("k", SASM::kSettingsDataTypeString, &text);
+  const TemporaryHome::Snapshot before = home_.Take();
+  {
+    const LoweredLimit small_files(RLIMIT_FSIZE, 2000);
+    EXPECT_FALSE(manager_->SetSetting(&item, "k", "a"));
+    EXPECT_FALSE(manager_->SetSetting(&item, "k", "___MASTER_DOMAIN"));
+  }
+  EXPECT_EQ(home_.Take(), before);
+  EXPECT_TRUE(manager_->SetSetting(&item, "k", "a"));
 }
 
 TEST_F(MasterSettings, GoWithTheFirstLocalStorageInNaturalOrder) {

@@ -7,11 +7,6 @@ HomeFileManager::HomeFileManager(const TemporaryHome& home)
       asset_cache_((home / TemporaryHome::kAssetCache).c_str()),
       licences_((home / TemporaryHome::kLicences).c_str()) {}
 
-bool HomeFileManager::RemoveFileAtPath(const SimpleString& path) {
-  if (before_removal && !before_removal(path.c_str())) return false;
-  return LinuxFileManager::RemoveFileAtPath(path);
-}
-
 const SimpleString& HomeFileManager::GetAssetCacheDirectory() const {
   return asset_cache_;
 }

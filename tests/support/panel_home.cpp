@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <memory>
 
-#include "store/settings_file.h"
 #include "tests/support/settings_image.h"
 
 namespace fs = std::filesystem;
@@ -31,10 +30,8 @@ std::string PanelHome::AddData(const std::string& site,
 std::string PanelHome::Stored(const std::string& site, const char* key) const {
   const std::string file =
       site == kMaster ? MasterFile() : SettingsFileOf(site);
-  SASM::SimpleString* name = nullptr;
-  const image::Dictionary settings(
-      SASM::ReadSettingsFile((*this / file).c_str(), &name));
-  delete name;
+  const image::Dictionary settings =
+      Has(file) ? image::Read(Read(file)) : nullptr;
   if (!settings) return "no settings";
   const auto entry = settings->find(key);
   if (entry == settings->end()) return "";

@@ -1,0 +1,53 @@
+#include "platform/open_below.h"
+
+#include <fcntl.h>
+#include <linux/openat2.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <string>
+#include <string_view>
+
+namespace {
+
+FileDescriptor OpenInOneCall(int trusted, const char* way) {
+  open_how how = {};
+  how.flags = kPlaceFlags;
+  how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
+  // The C library has no function for it.
+  return FileDescriptor(static_cast<int>(RetryInterrupted(
+      [&] { return syscall(SYS_openat2, trusted, way, &how, sizeof how); })));
+}
+
+// For kernels before 5.6 and sandboxes that forbid openat2(2).
+FileDescriptor OpenByComponents(FileDescriptor trusted, std::string_view way) {
+  FileDescriptor reached = std::move(trusted);
+  while (reached.IsOpen() && !way.empty()) {
+    const std::string name(way.substr(0, way.find('/')));
+    way.remove_prefix(std::min(name.size() + 1, way.size()));
+    if (name.empty()) continue;
+    if (name == "..") {
+      errno = EXDEV;
+      return FileDescriptor();
+    }
+    reached = OpenPlace(reached.Get(), name.c_str(), O_NOFOLLOW);
+  }
+  return reached;
+}
+
+// EAGAIN: the kernel could not rule out that a rename led out of `trusted`.
+bool IsNoAnswer(int error) {
+  return error == ENOSYS || error == EPERM || error == EAGAIN;
+}
+
+}  // namespace
+
+FileDescriptor OpenBelow(const char* trusted, const char* way) {
+  FileDescriptor top = OpenPlace(AT_FDCWD, trusted);
+  if (!top.IsOpen() || !*way) return top;
+  FileDescriptor reached = OpenInOneCall(top.Get(), way);
+  if (reached.IsOpen() || !IsNoAnswer(errno)) return reached;
+  return OpenByComponents(std::move(top), way);
+}

@@ -1,0 +1,34 @@
+// Changes of the list of domains that wait to be written.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <unordered_set>
+
+#include "store/settings_manager.h"
+
+namespace SASM {
+
+// What a ListWriteGuard holds back.
+class SettingsManager::ListChanges {
+ public:
+  // True for a listed site that is not to be removed. `domains` is the list.
+  [[nodiscard]] bool IsListed(const SimpleString& site,
+                              const SDIVector& domains);
+  // `site` has been appended to the list.
+  void NoteAppended(const SimpleString& site);
+  // An element of this name, the last one, is to be removed from the list.
+  void NoteRemoved(const SimpleString& site);
+
+  [[nodiscard]] bool IsEmpty() const { return !is_changed_; }
+  void RemoveFrom(SDIVector* domains);
+
+ private:
+  // The names that the list will have; made when they are first asked for.
+  std::optional<std::unordered_multiset<std::string>> names_;
+  // A name for each element that is to be removed.
+  std::unordered_multiset<std::string> removed_;
+  bool is_changed_ = false;
+};
+
+}  // namespace SASM
