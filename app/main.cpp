@@ -3,12 +3,10 @@
 
 #include "app/command_line.h"
 #include "app/start_up.h"
-#include "platform/standard_streams.h"
-#include "settings/out_of_memory.h"
+#include "platform/process_setup.h"
 
 int main(int argc, char** argv) {
-  OpenStandardStreams();
-  ExitWhenOutOfMemory();
+  PrepareProcess();
   // Without a display --help still answers, and everything else is told by
   // the command line's own message.
   (void)gtk_init_check(&argc, &argv);

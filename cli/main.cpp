@@ -5,8 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/error_messages.h"
-#include "platform/standard_streams.h"
-#include "settings/out_of_memory.h"
+#include "platform/process_setup.h"
 
 namespace {
 
@@ -42,8 +41,7 @@ bool CloseOutput() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  OpenStandardStreams();
-  ExitWhenOutOfMemory();
+  PrepareProcess();
   CommandLine command;
   const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
   if (!ParseCommandLine(arguments, &command)) return kUsageError;

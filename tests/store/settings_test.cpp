@@ -120,11 +120,11 @@ TEST_F(MasterSettings, StayWhileTheirWriterRemovesAndRewritesThem) {
   const std::string files[] = {TemporaryHome::MasterFile(),
                                TemporaryHome::SettingsFileOf("a")};
   const std::string whole[] = {Master(), SiteFile("a")};
-  for (const char* meanwhile : {"missing", "", "\x00\xBF\x00"}) {
+  for (const std::string& meanwhile : {"missing"s, ""s, Hex("00 BF 00")}) {
     for (int i = 0; i < 2; ++i) {
       SCOPED_TRACE(meanwhile + files[i]);
       fs::remove(home_ / files[i]);
-      if (*meanwhile != 'm') home_.Write(files[i], meanwhile);
+      if (meanwhile != "missing") home_.Write(files[i], meanwhile);
       instead_of_waiting = [&] { home_.Write(files[i], whole[i]); };
       testing::internal::CaptureStderr();
       Start();

@@ -1,9 +1,14 @@
-#include "platform/standard_streams.h"
+#include "platform/process_setup.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
+
+#include "settings/out_of_memory.h"
+
+namespace {
 
 void OpenStandardStreams() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
@@ -11,4 +16,12 @@ void OpenStandardStreams() {
     // The lowest free descriptor is this one.
     if (open("/dev/null", O_RDONLY) != stream) std::_Exit(EXIT_FAILURE);
   }
+}
+
+}  // namespace
+
+void PrepareProcess() {
+  OpenStandardStreams();
+  ExitWhenOutOfMemory();
+  std::signal(SIGXFSZ, SIG_IGN);
 }
