@@ -88,7 +88,7 @@ bool IsComplete(const FileImage& image) {
   unsigned short type = 0;
   unsigned int length = 0;
   reader.GetHeaderInfo(&type, &length);
-  return image.size > 0 && length <= image.size - reader.Position();
+  return !reader.TakeFault().what && length <= image.size - reader.Position();
 }
 
 SimpleString DirectoryOf(const SimpleString& path) {
