@@ -58,9 +58,6 @@ class HashMap {
   HashMap(const HashMap&) = delete;
   HashMap& operator=(const HashMap&) = delete;
 
-  // To go with the last caller.
-  [[nodiscard]] bool IsUsable() const { return true; }
-
   iterator begin() const { return iterator(this, begin_); }
   // Its key and value are empty.
   iterator end() const { return iterator(this, sentinel_.get()); }

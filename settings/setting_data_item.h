@@ -57,9 +57,6 @@ class SettingDataItem {
   // own type. For an unknown type code `data` is not read.
   void SetData(_SettingsDataType data_type, const void* data);
 
-  // To go with the last caller: always true.
-  [[nodiscard]] bool IsWhole() const { return true; }
-
   SimpleString name;
   _SettingsDataType type;
   // `type` says which member is in use.

@@ -57,9 +57,6 @@ class SettingsReader {
   // Bytes taken so far.
   [[nodiscard]] std::uint64_t Position() const { return position_; }
 
-  // To go with the last caller.
-  [[nodiscard]] bool WasShortOfMemory() const { return false; }
-
   // A fault in the image: a constant text, null for none, and the offset in
   // bytes at which it was found.
   struct Fault {

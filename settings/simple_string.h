@@ -7,40 +7,36 @@
 
 namespace SASM {
 
-// Bytes as they were received, up to their first zero byte; their encoding is
-// the caller's affair. Every copy is deep.
+// A text up to its first zero byte. The bytes are kept as they come; the
+// encoding is up to the caller. Every copy is deep.
 //
-// A string always holds a text, the empty text at least. Only when memory
-// could not be had is it without one: c_str() is then null, appending fails,
-// and the string equals no other. Such a string is never a usable path or key.
+// Always holds a text, the empty text at least. Only a failed AppendString
+// leaves it without one: c_str() is then null, and the string may only be
+// assigned to or destroyed.
 class SimpleString {
  public:
   SimpleString() : text_(EmptyText()) {}
-  // Null gives the empty text. Implicit: a literal is good wherever a string
-  // is asked for.
+  // Null gives the empty text. Implicit: a literal can be passed wherever a
+  // string is expected.
   SimpleString(const char* text);  // NOLINT(google-explicit-constructor)
   SimpleString(const SimpleString& other);
-  // Leaves `other` without a text, fit only to be assigned to or destroyed.
+  // Leaves `other` empty.
   SimpleString(SimpleString&& other) noexcept
-      : text_(std::exchange(other.text_, nullptr)) {}
+      : text_(std::exchange(other.text_, EmptyText())) {}
   ~SimpleString() { Free(); }
 
-  // As when memory could not be had.
-  static SimpleString WithoutText() { return SimpleString(Adopted{nullptr}); }
-
-  // The first `size` bytes, cut before the first zero byte among them.
+  // The first `size` bytes, cut at the first zero byte among them.
   static SimpleString FromBytes(const unsigned char* bytes, std::size_t size);
 
-  // The parts one after another; without a text when one of them is null.
+  // The parts one after another. None is null.
   static SimpleString Joined(std::initializer_list<const char*> parts);
 
-  // A new array with a copy of `text` and its zero, of the empty text for
-  // null. The caller frees it with delete[]. Null when memory is short.
+  // A new array with a copy of `text` and its zero byte; of the empty text for
+  // null. The caller frees it with delete[].
   [[nodiscard]] static char* CopyString(const char* text);
 
-  // Appends a copy of `text`; null appends nothing. False when memory is
-  // short, and when the string was without a text before: it is without one
-  // afterwards. A chain of appends may be checked once, at its end.
+  // Appends a copy of `text`; null appends nothing. False when the new array
+  // cannot be allocated: the string is then without a text.
   bool AppendString(const char* text);
 
   // The result is a copy of the string after the assignment, not a reference.
@@ -49,10 +45,9 @@ class SimpleString {
     std::swap(text_, other.text_);
   }
 
-  // Borrowed; valid until the string changes. Null without a text.
+  // Borrowed; valid until the string changes.
   [[nodiscard]] const char* c_str() const { return text_; }
-  [[nodiscard]] bool HasText() const { return text_ != nullptr; }
-  [[nodiscard]] bool IsEmpty() const { return !text_ || !*text_; }
+  [[nodiscard]] bool IsEmpty() const { return !*text_; }
 
  private:
   struct Adopted {
@@ -60,7 +55,7 @@ class SimpleString {
   };
   explicit SimpleString(Adopted adopted) : text_(adopted.text) {}
 
-  // Shared by all strings that were never given a text, and never written to.
+  // Shared by all empty strings that have no array; never written to.
   static char* EmptyText() { return const_cast<char*>(&kEmptyText); }
   void Free() {
     if (text_ != EmptyText()) delete[] text_;

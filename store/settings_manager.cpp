@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/open_below.h"
+#include "settings/map_keys.h"
 #include "settings/settings_reader.h"
 #include "settings/settings_writer.h"
 #include "store/default_settings.h"
@@ -218,10 +219,7 @@ bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
 StringVector* SettingsManager::GetNewSettingKeys(const SimpleString& domain) {
   const SettingsDictionary* dictionary =
       EnsureSettingsAreLoadedForDomain(domain);
-  if (!dictionary) return nullptr;
-  auto keys = std::make_unique<StringVector>();
-  for (const auto& entry : *dictionary) keys->addElement(&entry.key);
-  return keys.release();
+  return dictionary ? NewListOfKeys(*dictionary) : nullptr;
 }
 
 bool SettingsManager::LoadMasterSettingsFromDisk() {

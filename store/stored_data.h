@@ -9,7 +9,7 @@
 namespace SASM {
 
 // Whether the domain's settings file is there and not empty: only then does
-// the list of domains keep it. True also when memory is short for the path.
+// the list of domains keep it. True also when that cannot be found out.
 [[nodiscard]] bool HasSettingsFile(const SimpleString& domain,
                                    const StoreLayout& layout,
                                    const FileManager& files);
