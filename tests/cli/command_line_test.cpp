@@ -52,9 +52,9 @@ TEST_F(VersionCommand, ShowsWhatIsInstalled) {
     SCOPED_TRACE(c.stand_in);
     // Without PATH no plug-in of this computer is found.
     const ProgramRun run = RunCommand(
-        "ln -sf " STAND_INS "/" + std::string(c.stand_in) +
-        " ~/libcorvaneplayer.so; PATH=/nonexistent MOZ_PLUGIN_PATH=~ " PROGRAM
-        " version");
+        "ln -sf " + Quoted(STAND_INS "/" + std::string(c.stand_in)) +
+        " ~/libcorvaneplayer.so; PATH=/nonexistent MOZ_PLUGIN_PATH=~ " +
+        Quoted(PROGRAM) + " version");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.output,

@@ -14,13 +14,13 @@ class SettingsProgramTest : public testing::Test {
   SettingsProgramTest() { setenv("LC_ALL", "C", 1); }
 
   static ProgramRun Run(const std::string& arguments) {
-    return RunCommand(std::string(PROGRAM) + " " + arguments);
+    return RunCommand(Quoted(PROGRAM) + " " + arguments);
   }
   // The same with --json; the output is that of a jq filter. iconv checks that
   // it is UTF-8: jq alone would replace bytes that are not.
   static ProgramRun Query(const std::string& arguments,
                           const std::string& filter) {
-    return RunCommand("json=$(" PROGRAM " --json " + arguments +
+    return RunCommand("json=$(" + Quoted(PROGRAM) + " --json " + arguments +
                       "); status=$?; printf %s \"$json\" |"
                       " iconv -f UTF-8 -t UTF-8 | jq -cr " +
                       Quoted(filter) + " && exit $status");

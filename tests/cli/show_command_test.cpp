@@ -178,7 +178,7 @@ TEST_F(ShowCommand, ChangesNothing) {
 }
 
 TEST_F(ShowCommand, CarriesNoCodeThatWritesSettings) {
-  const std::string symbols = RunCommand("nm -C " PROGRAM).output;
+  const std::string symbols = RunCommand("nm -C " + Quoted(PROGRAM)).output;
   EXPECT_THAT(symbols, HasSubstr("SettingsReader::ReadEntry"));
   EXPECT_THAT(symbols, Not(HasSubstr("SettingsManager::")));
   EXPECT_THAT(symbols, Not(HasSubstr("SettingsWriter::")));

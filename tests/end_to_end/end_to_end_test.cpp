@@ -8,9 +8,10 @@ namespace {
 // The accessibility modules leak, and so does the file chooser: in builds
 // that look for leaks this is left to the tests without them. A program that
 // does not end is ended, long after a test has failed.
-constexpr char kCommand[] =
+const std::string kCommand =
     "G_DEBUG=fatal-warnings GTK_MODULES=gail:atk-bridge"
-    " LSAN_OPTIONS=detect_leaks=0 timeout 60 " PANEL_PROGRAM " ";
+    " LSAN_OPTIONS=detect_leaks=0 timeout 60 " +
+    Quoted(PANEL_PROGRAM) + " ";
 
 constexpr std::chrono::seconds kPatience(30);
 constexpr std::chrono::milliseconds kPause(10);

@@ -114,8 +114,8 @@ TEST_F(ProgramTest, AnswersOnTheCommandLine) {
       {"", 1, "", "Cannot open display: \n"},
   };
   for (const auto& c : cases) {
-    const ProgramRun run = RunCommand(
-        std::string("env -u DISPLAY " PANEL_PROGRAM " ") + c.options);
+    const ProgramRun run =
+        RunCommand("env -u DISPLAY " + Quoted(PANEL_PROGRAM) + " " + c.options);
     EXPECT_EQ(run.status, c.status);
     EXPECT_THAT(run.output, StartsWith(c.output));
     EXPECT_EQ(run.errors, c.errors);

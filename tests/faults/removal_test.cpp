@@ -18,6 +18,7 @@
 #include "store/settings_manager.h"
 #include "tests/support/home_file_manager.h"
 #include "tests/support/privileges.h"
+#include "tests/support/program_run.h"
 #include "tests/support/settings_image.h"
 
 namespace fs = std::filesystem;
@@ -209,13 +210,15 @@ TEST_F(Removal, OfOddThingsInPlacesOfSettingsFilesTouchesNothingElse) {
   const std::string files[] = {home_ / TemporaryHome::MasterFile(),
                                home_ / TemporaryHome::SettingsFileOf(kSite)};
   for (const std::string command :
-       {"mkfifo $place", "mkdir -p $place/inside", "ln -s ~/precious/1 $place",
-        "ln -s $place $place", "ln -s /dev/tty $place"}) {
+       {"mkfifo \"$place\"", "mkdir -p \"$place/inside\"",
+        "ln -s ~/precious/1 \"$place\"", "ln -s \"$place\" \"$place\"",
+        "ln -s /dev/tty \"$place\""}) {
     SCOPED_TRACE(command);
     fs::remove_all(home_ / ".orbelline");
     fs::create_directories(fs::path(files[1]).parent_path());
     for (const std::string& file : files) {
-      ASSERT_EQ(std::system(("place=" + file + "; " + command).c_str()), 0);
+      ASSERT_EQ(std::system(("place=" + Quoted(file) + "; " + command).c_str()),
+                0);
     }
     testing::internal::CaptureStderr();  // an empty file has no header
     SASM::SettingsManager manager(&files_);

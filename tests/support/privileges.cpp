@@ -8,6 +8,8 @@
 #include <csignal>
 #include <cstdlib>
 
+#include "tests/support/program_run.h"
+
 namespace {
 
 constexpr uid_t kNobody = 65534;
@@ -27,7 +29,7 @@ extern "C" passwd* getpwuid(uid_t uid) {
 OrdinaryUser::OrdinaryUser(const TemporaryHome& home)
     : was_root_(geteuid() == 0) {
   if (!was_root_) return;
-  const std::string command = "chown -Rh 65534 '" + home.Path().string() + "'";
+  const std::string command = "chown -Rh 65534 " + Quoted(home.Path());
   EXPECT_EQ(std::system(command.c_str()), 0);
   EXPECT_EQ(seteuid(kNobody), 0);
 }

@@ -23,8 +23,9 @@ ProgramRun RunCommand(const std::string& command) {
   const fs::path directory = mkdtemp(pattern.data());
   const std::string output = directory / "output";
   const std::string errors = directory / "errors";
-  const int result =
-      std::system(("{ " + command + "\n} >" + output + " 2>" + errors).c_str());
+  const std::string redirected =
+      "{ " + command + "\n} >" + Quoted(output) + " 2>" + Quoted(errors);
+  const int result = std::system(redirected.c_str());
   const ProgramRun run = {WIFEXITED(result) ? WEXITSTATUS(result) : -1,
                           TakeFile(output), TakeFile(errors)};
   fs::remove_all(directory);

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "tests/support/program_run.h"
+
 namespace fs = std::filesystem;
 
 TemporaryHome::TemporaryHome() {
@@ -19,7 +21,7 @@ TemporaryHome::TemporaryHome() {
 TemporaryHome::~TemporaryHome() {
   setenv("HOME", former_home_.c_str(), 1);
   // Tests take permissions away, and make trees too deep for a path.
-  const std::string quoted = "'" + path_.string() + "'";
+  const std::string quoted = Quoted(path_);
   const std::string command =
       "chmod -R u+rwx " + quoted + " 2>/dev/null; rm -rf " + quoted;
   EXPECT_EQ(std::system(command.c_str()), 0);
