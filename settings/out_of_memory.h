@@ -5,8 +5,8 @@
 // This covers every form of operator new, the nothrow forms included, but not
 // malloc and its kin, which still return null.
 //
-// Call this first in main. A change of a settings file allocates everything
-// before it touches the file, so the exit leaves the old file or the new one.
+// A change of a settings file allocates everything before it touches the file,
+// so the exit leaves the old file or the new one.
 void ExitWhenOutOfMemory();
 
 // Prints one line on standard error and exits with status 1. Runs no exit

@@ -193,4 +193,13 @@ TEST_F(ShowCommand, SpeaksTheLanguageOfTheUserButNotInJson) {
   EXPECT_EQ(Answer("show", ".global.camera"), "ask\n");
 }
 
+#ifndef __SANITIZE_ADDRESS__  // a sanitizer reserves more than any limit
+TEST_F(ShowCommand, EndsWithOneLineWhenMemoryRunsOut) {
+  std::filesystem::resize_file(home_ / Home::MasterFile(), 60 << 20);
+  const ProgramRun run = RunCommand("ulimit -v 50000; " PROGRAM " show");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.errors, "Out of memory.\n");
+}
+#endif
+
 }  // namespace
