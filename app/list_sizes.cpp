@@ -92,9 +92,6 @@ void fix_list_sizes(GnomeTCCapplet* panel) {
   for (const SizedColumn& row : kSizedColumns) {
     GtkTreeViewColumn* column = get_column(panel->builder, row.column);
     gtk_tree_view_column_set_sizing(column, GTK_TREE_VIEW_COLUMN_FIXED);
-    if (row.content != Content::kName) continue;
-    // A name of several lines takes no more height than the others.
-    g_object_set(get_renderer(column), "single-paragraph-mode", TRUE, nullptr);
   }
   for (const SizedColumn& row : kSizedColumns) {
     GtkTreeView* view = get_tree_view(panel->builder, row.tree_view);

@@ -10,6 +10,7 @@
 #include "app/localize_widgets.h"
 #include "app/notebook_pages.h"
 #include "app/site_lists.h"
+#include "app/trusted_locations.h"
 #include "app/ui_definition.h"
 #include "store/setting_keys.h"
 #include "strings/string_manager.h"
@@ -100,6 +101,7 @@ bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
   prepare_list_sorting(panel);
   prepare_lists(panel);
   prepare_choices(panel);
+  prepare_location_editing(panel);
   set_links(panel);
   localize_widgets(panel);
   fix_list_sizes(panel);

@@ -2,10 +2,10 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <string>
 
 #include "app/detached_list.h"
 #include "app/dialogs.h"
-#include "app/display_text.h"
 #include "app/notebook_pages.h"
 #include "app/site_lists.h"
 
@@ -68,10 +68,24 @@ void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
   update_notebook_page(panel, kCurrentPage);
 }
 
-// An edit that changes nothing of what the list shows: the location may hold
-// bytes that can only be shown replaced.
-bool IsAsShown(const SettingDataItem& location, const char* text) {
-  return display_text(location.name.c_str()) == text;
+// An entry holds only UTF-8: U+FFFD replaces other bytes.
+std::string EditableText(const SASM::SimpleString& location) {
+  char* valid = g_utf8_make_valid(location.c_str(), -1);
+  std::string text = valid;
+  g_free(valid);
+  return text;
+}
+
+// The row may show an excerpt, or invisible characters escaped.
+void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
+                       const char* path, GnomeTCCapplet* panel) {
+  auto* model = GTK_TREE_MODEL(get_list_store(panel->builder, kListStore));
+  GtkTreeIter row;
+  if (!gtk_tree_model_get_iter_from_string(model, &row, path)) return;
+  const SASM::SimpleString location =
+      get_text_field(model, &row, kLocationColumn);
+  gtk_entry_set_text(GTK_ENTRY(entry), EditableText(location).c_str());
+  gtk_editable_select_region(GTK_EDITABLE(entry), 0, -1);
 }
 
 bool IsCollected(const GnomeTCCapplet* panel, guint32 index) {
@@ -134,6 +148,12 @@ void RemoveCollectedRows(GnomeTCCapplet* panel, SDIVector* locations) {
 
 }  // namespace
 
+void prepare_location_editing(GnomeTCCapplet* panel) {
+  g_signal_connect(get_object(panel->builder, "trusted_location",
+                              GTK_TYPE_CELL_RENDERER_TEXT),
+                   "editing-started", G_CALLBACK(EditWholeLocation), panel);
+}
+
 void fill_trusted_locations(GnomeTCCapplet* panel) {
   set_sensitive(panel, kRemoveButton, false);
   GtkListStore* store = get_list_store(panel->builder, kListStore);
@@ -176,7 +196,8 @@ G_MODULE_EXPORT void on_trusted_location_edited(GtkCellRendererText*,
   GtkListStore* store = get_list_store(panel->builder, kListStore);
   const guint32 index = ListIndexOf(panel, GTK_TREE_MODEL(store), row_index);
   if (index < locations->count) {
-    if (IsAsShown(*locations->At(index), text)) return;
+    // Unchanged: replaced bytes must not be stored.
+    if (EditableText(locations->At(index)->name) == text) return;
     locations->ReplaceElementAtIndex(index, MakeLocation(text));
   }
   StoreLocations(panel, locations);

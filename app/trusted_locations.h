@@ -6,3 +6,6 @@
 // Refills the list from the stored locations and makes its Remove button
 // insensitive.
 void fill_trusted_locations(GnomeTCCapplet* panel);
+
+// Lets a row be edited as the location it stands for, not as it is shown.
+void prepare_location_editing(GnomeTCCapplet* panel);

@@ -38,35 +38,47 @@ std::string Escaped(std::string_view bytes) {
   return text;
 }
 
-// What is shown for one character, or for a byte that begins none.
-struct Shown {
-  std::string text;
-  std::size_t length;  // characters
-};
-
-Shown Show(std::string_view sequence, bool is_character) {
-  if (sequence == "\\") return {"\\\\", 2};
-  if (is_character && !IsInvisible(sequence)) return {std::string(sequence), 1};
-  const std::string text = Escaped(sequence);
-  return {text, text.size()};
+// In bytes, of the first characters of a well-formed text.
+std::size_t SizeOfStart(std::string_view text, std::size_t characters) {
+  std::size_t size = 0;
+  while (characters-- > 0)
+    size += NCPStrings::SequenceLength(text.substr(size));
+  return size;
 }
 
 }  // namespace
 
-std::string Printable(std::string_view bytes, std::size_t longest) {
+std::string Printable(std::string_view bytes) {
   std::string text;
-  std::size_t length = 0;
   while (!bytes.empty()) {
     const std::size_t size = NCPStrings::SequenceLength(bytes);
     const std::string_view sequence =
         bytes.substr(0, std::max<std::size_t>(size, 1));
-    const Shown shown = Show(sequence, size > 0);
-    length += shown.length;
-    if (length > longest) return text + "…";
-    text += shown.text;
+    if (sequence == "\\") {
+      text += "\\\\";
+    } else if (size > 0 && !IsInvisible(sequence)) {
+      text += sequence;
+    } else {
+      text += Escaped(sequence);
+    }
     bytes.remove_prefix(sequence.size());
   }
   return text;
+}
+
+std::string PrintableExcerpt(std::string_view bytes, std::size_t longest) {
+  // Bytes farther from both ends are in the middle.
+  const std::size_t margin = 4 * longest;
+  std::string ends(bytes.substr(0, margin));
+  if (bytes.size() > margin) {
+    ends += bytes.substr(std::max(margin, bytes.size() - margin));
+  }
+  const std::string text = Printable(ends);
+  const std::size_t length = u8_mbsnlen(Bytes(text), text.size());
+  if (length <= longest) return text;
+  const std::size_t half = longest / 2;
+  return text.substr(0, SizeOfStart(text, half)) + "…" +
+         text.substr(SizeOfStart(text, length - half));
 }
 
 int DisplayWidth(std::string_view text) {

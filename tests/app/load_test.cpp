@@ -22,6 +22,29 @@ class LoadTest : public PanelTest {
     gtk_tree_path_free(last);
     Settle();
   }
+
+  // Of the row with the cursor.
+  void ToggleTooltip(const char* tree_view) {
+    gboolean is_toggled = FALSE;
+    g_signal_emit_by_name(Widget(tree_view), "show-help",
+                          GTK_WIDGET_HELP_TOOLTIP, &is_toggled);
+    Settle();
+  }
+
+  // Null when there is none.
+  static GtkWidget* ShownTooltip() {
+    GtkWidget* tooltip = nullptr;
+    GList* windows = gtk_window_list_toplevels();
+    for (GList* node = windows; node; node = node->next) {
+      auto* window = GTK_WINDOW(node->data);
+      if (gtk_widget_get_visible(GTK_WIDGET(window)) &&
+          gtk_window_get_type_hint(window) == GDK_WINDOW_TYPE_HINT_TOOLTIP) {
+        tooltip = GTK_WIDGET(window);
+      }
+    }
+    g_list_free(windows);
+    return tooltip;
+  }
 };
 
 TEST_F(LoadTest, TenThousandSites) {
@@ -74,6 +97,38 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
   Click("remove_site_storage_setting_button");
   EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains),
             "[" + sites[2] + " " + sites[4] + " " + sites[5] + "]");
+}
+
+TEST_F(LoadTest, HugeNamesFitTheScreen) {
+  setenv("GTK2_RC_FILES", "/dev/null", 1);
+  Names locations(1, std::string(60000, '\t'));
+  for (const char* text :
+       {"W", "wide enough\n", "\U0001F468\u200D", "e\u0301"}) {
+    std::string name;
+    for (int i = 0; i < 2800; ++i) name += text;
+    locations.push_back(name);
+  }
+  home_.AddLocations(locations);
+  Start();
+  g_object_set(gtk_settings_get_default(), "gtk-font-name", "Sans 40", nullptr);
+  Click("compat_settings_button");
+  // Without a window manager the window under the pointer has the focus: not
+  // a tooltip.
+  gdk_display_warp_pointer(gdk_display_get_default(), gdk_screen_get_default(),
+                           gdk_screen_width() - 1, gdk_screen_height() - 1);
+  Settle();
+  for (int row = 0; row < static_cast<int>(locations.size()); ++row) {
+    SCOPED_TRACE(row);
+    Select("trusted_locations_treeview", {row});
+    ToggleTooltip("trusted_locations_treeview");
+    GtkWidget* tooltip = ShownTooltip();
+    ASSERT_TRUE(tooltip);
+    GtkAllocation size;
+    gtk_widget_get_allocation(tooltip, &size);
+    EXPECT_LE(2 * size.width, gdk_screen_width());
+    EXPECT_LE(2 * size.height, gdk_screen_height());
+    ToggleTooltip("trusted_locations_treeview");
+  }
 }
 
 // The longest name that a settings file holds; no file can be named so.

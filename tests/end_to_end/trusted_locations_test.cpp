@@ -64,16 +64,22 @@ TEST_F(TrustedLocationsTest, TheRowIsMeantInASortedList) {
   ExpectLocations("[/a /b]");
 }
 
-// Bytes that are no text are shown replaced; an edit that leaves the row as
-// it is shown must not write the replacement.
+// Bytes that are no text are shown escaped; an edit that leaves the row as
+// it is must not write what replaces them in the entry.
 TEST_F(TrustedLocationsTest, KeepsBytesThatAreNoText) {
-  home_.AddLocations({"/caf\xe9", "/b"});
+  const std::string deep = "/" + std::string(400, 'd');
+  home_.AddLocations({"/caf\xe9", "/b", deep + "/\u202E"});
   Open();
-  Select({"/caf\xef\xbf\xbd"});
+  Select({deep.substr(0, 128) + "…" + std::string(115, 'd') +
+          "/"
+          R"(\xE2\x80\xAE)"});
+  Press("Return End BackSpace Return");
+  ExpectLocations("[/caf\xe9 /b " + deep + "/]");
+  Select({R"(/caf\xE9)"});
   Press("Return Return");
   Select({"/b"});
   Press("Delete");
-  ExpectLocations("[/caf\xe9]");
+  ExpectLocations("[/caf\xe9 " + deep + "/]");
 }
 
 // Another type under the key is no list: nothing to show, nothing to change.

@@ -25,17 +25,19 @@ TEST(Printable, LeavesNothingInvisible) {
   }
 }
 
-TEST(Printable, EndsAtTheLimit) {
+TEST(PrintableExcerpt, LeavesOutTheMiddle) {
+  const std::string huge(65535, '\t');
   const struct {
-    const char* bytes;
+    std::string bytes;
     std::size_t longest;
     const char* text;
-  } cases[] = {{"日本", 2, "日本"},
-               {"日本語", 2, "日本…"},
-               {"a\t", 5, "a\\x09"},
-               {"a\t", 4, "a…"}};
+  } cases[] = {{"日本語字", 4, "日本語字"},
+               {"日本-語字", 4, "日本…語字"},
+               {"a\t\xE9z", 6, "a\\x…E9z"},
+               {"日本" + huge + "語字", 4, "日本…語字"},
+               {huge, 8, "\\x09…\\x09"}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.text);
-    EXPECT_EQ(Printable(c.bytes, c.longest), c.text);
+    EXPECT_EQ(PrintableExcerpt(c.bytes, c.longest), c.text);
   }
 }
