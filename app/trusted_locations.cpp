@@ -8,6 +8,7 @@
 #include "app/dialogs.h"
 #include "app/notebook_pages.h"
 #include "app/site_lists.h"
+#include "settings/setting_data_item.h"
 
 using SASM::SDIVector;
 using SASM::SettingDataItem;
