@@ -1,6 +1,7 @@
 // The associative container of settings dictionaries and configuration files.
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -86,7 +87,7 @@ class HashMap {
   // Removes the entry at a position other than end().
   void erase(iterator position) {
     Node* node = position.node_;
-    if (!index_.empty()) index_.erase(node->key.c_str());
+    if (!index_.empty()) index_.erase(IndexKey(node->key));
     Unlink(node);
     delete node;
   }
@@ -99,6 +100,18 @@ class HashMap {
   }
 
  private:
+  // Compares numbers first, which is quick, and then texts, so that no choice
+  // of keys makes a search slow.
+  struct IndexKey {
+    explicit IndexKey(const K& key)
+        : text(key.c_str()), number(std::hash<std::string_view>()(text)) {}
+    std::string_view text;
+    std::size_t number;
+    bool operator<(const IndexKey& other) const {
+      return number != other.number ? number < other.number : text < other.text;
+    }
+  };
+
   void Initialize() {
     begin_ = sentinel_.get();
     sentinel_->prev = nullptr;
@@ -156,22 +169,21 @@ class HashMap {
   }
 
   Node* FindInIndex(const K& key) const {
-    const auto found = index_.find(key.c_str());
+    const auto found = index_.find(IndexKey(key));
     return found == index_.end() ? sentinel_.get() : found->second;
   }
 
   // Nothing as long as the map is small. The first time adds all nodes.
   void AddToIndex(Node* node) {
     if (!index_.empty()) {
-      index_.emplace(node->key.c_str(), node);
+      index_.emplace(IndexKey(node->key), node);
     } else if (count_ > kMostWithoutIndex) {
-      for (Node& each : *this) index_.emplace(each.key.c_str(), &each);
+      for (Node& each : *this) index_.emplace(IndexKey(each.key), &each);
     }
   }
 
-  // All nodes by their keys' texts, or empty. Ordered and not hashed: no
-  // choice of keys makes it slow.
-  std::map<std::string_view, Node*> index_;
+  // All nodes by their keys, or empty.
+  std::map<IndexKey, Node*> index_;
   unsigned int count_ = 0;
   const std::unique_ptr<Node> sentinel_;
   Node* begin_;
