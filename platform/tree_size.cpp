@@ -4,6 +4,10 @@
 
 #include <optional>
 
+// Not in the header: `TreeSize()` would there mean that all its memory, most of
+// it a buffer, is set to zero first.
+TreeSize::TreeSize() = default;
+
 std::uint64_t TreeSize::Measure(const char* path) {
   struct stat info;
   if (stat(path, &info) != 0) return 0;

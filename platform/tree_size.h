@@ -14,6 +14,8 @@
 // same directory gives what it held then.
 class TreeSize {
  public:
+  TreeSize();
+
   // Bytes; 0 when nothing is there, at most 2^64 - 1.
   [[nodiscard]] std::uint64_t Measure(const char* path);
 
