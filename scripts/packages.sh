@@ -1,8 +1,9 @@
 # shellcheck shell=bash
+# shellcheck disable=SC2034  # The lists are used by the scripts that source it.
 # The Debian packages that the scripts need, one list for each purpose, and
-# their installation. README.md says why each is needed. To be sourced.
+# their installation. To be sourced.
 
-# shellcheck disable=SC2034  # Used by the scripts that source this file.
+# To build; README.md says why each is needed.
 build_packages=(
   cmake
   g++
@@ -13,67 +14,65 @@ build_packages=(
 )
 
 # A virtual display, and what makes windows in it look as on a desktop.
-# shellcheck disable=SC2034
 headless_packages=(
-  adwaita-icon-theme
-  fonts-dejavu-core
-  fonts-noto-cjk
-  gnome-themes-extra
-  gtk2-engines-pixbuf
-  xauth
-  xvfb
+  adwaita-icon-theme   # icons on buttons, as on a desktop
+  fonts-dejavu-core    # a font: a bare system has none
+  fonts-noto-cjk       # letters of the Chinese, Japanese and Korean texts
+  gnome-themes-extra   # the theme Adwaita for GTK+ 2
+  gtk2-engines-pixbuf  # draws that theme
+  xauth                # used by xvfb-run, which starts the display
+  xvfb                 # the virtual display
 )
 
+# To build a Debian package.
 package_packages=(
-  build-essential
-  debhelper
-  dpkg-dev
+  build-essential  # assumed by every Debian package
+  debhelper        # builds Debian packages
+  dpkg-dev         # runs the package build, finds the libraries to depend on
 )
 
-# shellcheck disable=SC2034
+# To test, the package included.
 test_packages=(
   "${package_packages[@]}"
-  appstream
-  at-spi2-core
-  bash-completion
-  clang-format
-  clang-tidy
-  cppcheck
-  dbus
-  desktop-file-utils
-  jq
-  libatk-adaptor
-  libgail-common
-  libgmock-dev
-  libgtest-dev
-  lintian
-  locales
-  man-db
-  openbox
-  python3
-  shellcheck
-  xdotool
+  appstream           # checks the metainfo file
+  at-spi2-core        # shows the windows to tests as to a screen reader
+  bash-completion     # the library that the completions use
+  clang-format        # checks the format of the code
+  clang-tidy          # finds faults in the code
+  cppcheck            # finds other faults in the code
+  dbus                # the message bus of the accessibility tree
+  desktop-file-utils  # checks the desktop entry
+  jq                  # reads JSON in scripts and tests
+  libatk-adaptor      # connects the toolkit to the accessibility tree
+  libgail-common      # the toolkit's part of the accessibility tree
+  libgmock-dev        # matchers of the unit tests
+  libgtest-dev        # the framework of the unit tests
+  lintian             # checks the Debian package
+  locales             # sources of the locales that scripts/make_locales makes
+  man-db              # checks the manual pages
+  openbox             # a window manager: without one no window has the focus
+  python3             # makes the seeds of the fuzz programs
+  shellcheck          # checks the scripts
+  xdotool             # types and clicks in the windows
 )
 
-# To measure.
-# shellcheck disable=SC2034
+# To measure: bench/run.
 bench_packages=(
-  bsdextrautils
-  gettext
-  jq
-  libbenchmark-dev
-  libsqlite3-dev
-  strace
+  bsdextrautils     # aligns the columns of the table
+  gettext           # measured beside the panel's table of texts
+  jq                # joins the figures of all programs
+  libbenchmark-dev  # measures calls of less than a microsecond
+  libsqlite3-dev    # measured beside the panel's settings files
+  strace            # counts system calls
 )
 
-# To search for faults by fuzzing and under valgrind.
-# shellcheck disable=SC2034
+# To search for faults: fuzz/run and scripts/valgrind.
 search_packages=(
-  clang-14
-  libclang-rt-14-dev
-  llvm-14
-  python3
-  valgrind
+  clang-14            # compiles the fuzz programs
+  libclang-rt-14-dev  # the fuzzing library
+  llvm-14             # shows which lines the inputs reach
+  python3             # makes the seeds of the fuzz programs
+  valgrind            # watches the memory of the tests
 )
 
 # Prints those of the named packages that are not installed.
@@ -110,7 +109,7 @@ install_packages() {
   local apt_get=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive
     apt-get -q -o DPkg::Lock::Timeout=600 -o Dpkg::Use-Pty=0
     -o Dpkg::Options::=--force-confdef -o Dpkg::Options::=--force-confold)
-  # Some other source of packages may be out of reach; the installation tells.
+  # A source that is out of reach may be another one: the installation decides.
   "${apt_get[@]}" update </dev/null >&2 || true
   if ! "${apt_get[@]}" install -y --no-install-recommends "${missing[@]}" \
     </dev/null >&2; then
