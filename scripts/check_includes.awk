@@ -60,7 +60,9 @@ FILENAME == "README.md" {
 FNR == 1 {
   folder = FILENAME
   sub(/\/.*/, "/", folder)
-  if (!(folder in has_row)) complain(FILENAME ": README.md has no row for " folder)
+  if (!(folder in has_row)) {
+    complain(FILENAME ": README.md has no row for " folder)
+  }
 }
 
 match($0, /^[ \t]*#[ \t]*include[ \t]*["<][^">]*/) {

@@ -1,0 +1,28 @@
+# shellcheck shell=bash
+# The build. To be sourced by scripts that work in the source folder.
+
+# Prints the line of the step that begins.
+step() {
+  echo "== $*"
+}
+
+# Everything that is built goes below the folder build/.
+need_writable_folder() {
+  if ! mkdir -p build 2>/dev/null || [[ ! -w build ]]; then
+    echo "The folder $PWD cannot be written to, and everything is built in" \
+      "build/ below it. Copy the source to a folder where you may write, and" \
+      "start again there." >&2
+    exit 1
+  fi
+}
+
+# Usage: configure DIRECTORY CMAKE_OPTION...
+configure() {
+  need_writable_folder
+  cmake -S . -B "$1" -G Ninja "${@:2}" >/dev/null
+}
+
+# Usage: compile DIRECTORY [OPTION...]
+compile() {
+  cmake --build "$1" --parallel "$(nproc)" "${@:2}"
+}
