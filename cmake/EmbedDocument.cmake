@@ -5,6 +5,16 @@ if(NOT size EQUAL LENGTH)
     "${FILE} is ${size} bytes long and must be ${LENGTH}: make up for it in "
     "its leading comment.")
 endif()
+file(READ ${FILE} text)
+foreach(element object signal)
+  string(TOUPPER ${element}S expected)
+  string(REGEX MATCHALL "<${element} " elements "${text}")
+  list(LENGTH elements count)
+  if(NOT count EQUAL ${expected})
+    message(FATAL_ERROR "${FILE} holds ${count} times <${element}> and must "
+      "hold ${${expected}}.")
+  endif()
+endforeach()
 file(READ ${FILE} bytes HEX)
 string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," bytes "${bytes}")
 file(WRITE ${OUTPUT}
