@@ -42,9 +42,7 @@ std::vector<std::string> WidestTexts(GnomeTCCapplet* panel, Content content) {
     }
   } else if (content == Content::kUsedSpace) {
     for (const double bytes : kLongSizes) {
-      char text[StorageSetting::kSpaceTextSize];
-      StorageSetting::FormatSpace(bytes, text, sizeof text);
-      texts.emplace_back(text);
+      texts.push_back(StorageSetting::TextOfSpace(bytes));
     }
   } else {
     texts.emplace_back();  // a name takes a width of its own, and is cut to it

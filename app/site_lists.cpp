@@ -9,6 +9,7 @@
 #include "app/list_sorting.h"
 #include "app/notebook_pages.h"
 #include "model/storage_setting.h"
+#include "store/setting_keys.h"
 
 using SASM::SimpleString;
 
@@ -40,12 +41,11 @@ struct SortKey {
   const SiteRow* row;
 };
 
-void MeasureSpace(GnomeTCCapplet* panel, const SimpleString& domain,
-                  UsedSpace* used) {
-  const std::uint64_t bytes = panel->settings->SizeOfLocalStorage(domain);
-  StorageSetting::FormatSpace(static_cast<double>(bytes), used->text,
-                              sizeof used->text);
-  used->raw_bytes = static_cast<guint>(bytes);
+void MeasureSpace(const SimpleString& domain, UsedSpace* used) {
+  StorageSetting setting(SASM::kStorageLimit, domain);
+  setting.formatSpaceUsed(used->text, sizeof used->text);
+  used->raw_bytes =
+      static_cast<guint>(static_cast<guint64>(setting.spaceUsed()));
 }
 
 std::vector<SiteRow> ReadRows(GnomeTCCapplet* panel, SitePermissionMode mode) {
@@ -64,7 +64,7 @@ std::vector<SiteRow> ReadRows(GnomeTCCapplet* panel, SitePermissionMode mode) {
         are_blocked ? nullptr
                     : panel->settings->EnsureSettingsAreLoadedForDomain(domain);
     rows[i].state = EffectiveState(permission, master, site);
-    if (mode == kStorageMode) MeasureSpace(panel, domain, &rows[i].used);
+    if (mode == kStorageMode) MeasureSpace(domain, &rows[i].used);
   }
   return rows;
 }

@@ -29,15 +29,9 @@ std::string TextOf(StringManager* strings, int id) {
   return text ? text : "";
 }
 
-std::string SizeText(double bytes) {
-  char text[StorageSetting::kSpaceTextSize];
-  StorageSetting::FormatSpace(bytes, text, sizeof text);
-  return text;
-}
-
 // As the panel shows it, followed by the exact number unless it is the same.
 std::string UsedText(std::uint64_t bytes) {
-  std::string text = SizeText(static_cast<double>(bytes));
+  std::string text = StorageSetting::TextOfSpace(static_cast<double>(bytes));
   return bytes < 1024 ? text : text + " (" + std::to_string(bytes) + ")";
 }
 
@@ -48,7 +42,8 @@ std::string StateText(const PermissionSettings& settings, PermissionKind kind,
   std::string text = TextOf(strings, choice->site_text_id);
   if (kind != kStorage) return text;
   const double limit_kb = settings.storage_limit_kb;
-  if (limit_kb > 0) text += " (" + SizeText(limit_kb * 1024) + ")";
+  if (limit_kb > 0)
+    text += " (" + StorageSetting::TextOfSpace(limit_kb * 1024) + ")";
   if (limit_kb == kUnlimited) text += " (∞)";
   return text;
 }

@@ -1,6 +1,8 @@
 // The limit of the data that a site may store.
 #pragma once
 
+#include <string>
+
 #include "model/permission_setting.h"
 
 // Shows a limit in kilobytes as a permission and as a slider position with a
@@ -43,7 +45,8 @@ class StorageSetting : public SettingBase {
   // including the terminating zero; kSpaceTextSize is enough for any.
   static constexpr int kSpaceTextSize = 80;
   void formatSpaceUsed(char* buffer, int size);
-  static void FormatSpace(double bytes, char* buffer, int size);
+  // That text for any number of bytes.
+  [[nodiscard]] static std::string TextOfSpace(double bytes);
 
   // True when what is staged lowers the stored limit.
   [[nodiscard]] bool isSettingLessThanOldValue();
@@ -59,6 +62,7 @@ class StorageSetting : public SettingBase {
  private:
   [[nodiscard]] bool HasPendingPosition() const;
   static void FetchTexts();
+  static void FormatSpace(double bytes, char* buffer, int size);
 
   // Texts of sizes, in the language chosen when the first one is needed.
   // Owned by the table of texts; null before.

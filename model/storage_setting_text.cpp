@@ -47,3 +47,9 @@ void StorageSetting::FormatSpace(double bytes, char* buffer, int size) {
   }
 }
 #pragma GCC diagnostic pop
+
+std::string StorageSetting::TextOfSpace(double bytes) {
+  char text[kSpaceTextSize];
+  FormatSpace(bytes, text, sizeof text);
+  return text;
+}

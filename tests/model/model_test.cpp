@@ -3,8 +3,8 @@
 #include <cstdlib>
 
 #include "model/storage_setting.h"
-#include "tests/support/store_test.h"
 #include "tests/support/call_hooks.h"
+#include "tests/support/store_test.h"
 
 namespace {
 
@@ -172,24 +172,26 @@ TEST_F(StorageLimit, FormatsTheSpaceUsed) {
   constexpr double kGB = 1 << 30;
   const struct {
     double bytes;
-    int size;
     const char* text;
-  } cases[] = {{0, 80, "none"},
-               {1023, 80, "1023 bytes"},
-               {1535, 80, "1 kB"},
-               {1536, 80, "2 kB"},
-               {1048576, 80, "1.00 MB"},
-               {kGB - 1, 80, "1024.00 MB"},
-               {18446744073709551616.0, 80, "17179869184.00 GB"},
-               {std::nan(""), 80, "none"},
-               {5 * kGB, 5, "5.00"},
-               {0, 1, ""},
-               {0, -1, "untouched"}};
+  } cases[] = {{0, "none"},
+               {1023, "1023 bytes"},
+               {1535, "1 kB"},
+               {1536, "2 kB"},
+               {1048576, "1.00 MB"},
+               {kGB - 1, "1024.00 MB"},
+               {18446744073709551616.0, "17179869184.00 GB"},
+               {std::nan(""), "none"}};
   for (const auto& c : cases) {
-    SCOPED_TRACE(c.bytes);
+    EXPECT_EQ(StorageSetting::TextOfSpace(c.bytes), c.text) << c.bytes;
+  }
+  BeginModel({"a"});
+  const std::string whole = StorageSetting::TextOfSpace(Of("a").spaceUsed());
+  const std::pair<int, std::string> cuts[] = {
+      {80, whole}, {3, whole.substr(0, 2)}, {1, ""}, {-1, "untouched"}};
+  for (const auto& [size, text] : cuts) {
     char buffer[80] = "untouched";
-    StorageSetting::FormatSpace(c.bytes, buffer, c.size);
-    EXPECT_STREQ(buffer, c.text);
+    Of("a").formatSpaceUsed(buffer, size);
+    EXPECT_EQ(buffer, text) << size;
   }
 }
 
