@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/file_descriptor.h"
 #include "settings/map_keys.h"
 
 namespace SASM {
@@ -19,8 +20,6 @@ constexpr char kUtf8Mark[] = {'\xEF', '\xBB', '\xBF'};
 constexpr char kUtf16Marks[][2] = {{'\xFE', '\xFF'}, {'\xFF', '\xFE'}};
 constexpr std::size_t kSmallestFile = 4;
 
-// The mode that fopen(3) gives a new file, before the umask.
-constexpr mode_t kNewFileMode = 0666;
 // Opening a pipe or device must not block, for which fopen(3) has no mode.
 constexpr int kOpenWithoutWaiting = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
