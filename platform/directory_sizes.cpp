@@ -37,7 +37,7 @@ struct DirectorySizes::Root {
   FileIdentity identity;
 };
 
-DirectorySizes::DirectorySizes() = default;
+DirectorySizes::DirectorySizes() : DirectoryWalk(kThere) {}
 DirectorySizes::~DirectorySizes() = default;
 
 DirectorySizes::Directory* DirectorySizes::Read(const char* path,

@@ -11,9 +11,10 @@
 
 namespace {
 
-// Directories kept open at once. A tree this deep is walked without ever
-// opening a directory twice.
-constexpr std::size_t kMostOpenDirectories = 512;
+// Directories kept open at once: fewer than the 1,024 files that a process may
+// usually have open. A tree this deep is walked without ever opening a
+// directory twice.
+constexpr std::size_t kMostOpenDirectories = 960;
 
 // A directory that waits to be entered.
 struct Subdirectory {
@@ -36,15 +37,16 @@ FileDescriptor OpenDirectory(int parent, const char* name) {
 struct DirectoryWalk::Level {
   std::string name;
   FileDescriptor directory;
-  // Recorded when the directory is closed while the walk is below it.
-  FileIdentity closed = {};
+  // Known at the latest when the directory is closed while the walk is below
+  // it.
+  FileIdentity identity = {};
   std::vector<Subdirectory> waiting = {};
   std::size_t next_waiting = 0;
 };
 
 // A batch is written before it is read.
 // cppcheck-suppress uninitMemberVar
-DirectoryWalk::DirectoryWalk() = default;
+DirectoryWalk::DirectoryWalk(Way way) : way_(way) {}
 DirectoryWalk::~DirectoryWalk() = default;
 
 bool DirectoryWalk::EnterDirectory(const FileIdentity&) { return true; }
@@ -55,14 +57,18 @@ void DirectoryWalk::Walk(int parent, const char* name,
                          const FileIdentity& identity) {
   start_ = parent;
   Push(name, identity);
-  while (!levels_.empty()) EnterNextSubdirectory();
+  while (waiting_count_ > 0 || (way_ == kThereAndBack && !levels_.empty())) {
+    EnterNextSubdirectory();
+  }
+  levels_.clear();
+  open_count_ = 0;
 }
 
 void DirectoryWalk::Push(const char* name, const FileIdentity& identity) {
   if (!EnterDirectory(identity)) return;
   FileDescriptor directory = OpenBelowTop(name);
   const bool is_open = directory.IsOpen();
-  levels_.push_back({name, std::move(directory)});
+  levels_.push_back({name, std::move(directory), identity});
   if (!is_open) return;
   if (++open_count_ == 1) farthest_open_ = levels_.size() - 1;
   if (open_count_ > kMostOpenDirectories) (void)CloseFarthest();
@@ -82,6 +88,7 @@ void DirectoryWalk::EnterNextSubdirectory() {
   Level& top = levels_.back();
   if (top.next_waiting == top.waiting.size()) return Pop();
   const Subdirectory next = std::move(top.waiting[top.next_waiting++]);
+  --waiting_count_;
   Push(next.name.c_str(), next.identity);
 }
 
@@ -93,7 +100,9 @@ void DirectoryWalk::Pop() {
   if (done.directory.IsOpen()) --open_count_;
   if (parent_is_open) return LeaveDirectory(parent, done.name.c_str());
   // Only a level that has a parent can lose it.
-  levels_.back().next_waiting = levels_.back().waiting.size();
+  Level& lost = levels_.back();
+  waiting_count_ -= lost.waiting.size() - lost.next_waiting;
+  lost.next_waiting = lost.waiting.size();
   errno = ESTALE;
   LoseDirectory();
 }
@@ -124,6 +133,7 @@ void DirectoryWalk::VisitBatch(std::size_t size) {
     if (VisitEntry(top.directory.Get(), entry->d_name, entry->d_type,
                    &identity)) {
       top.waiting.push_back({entry->d_name, identity});
+      ++waiting_count_;
     }
   }
 }
@@ -133,8 +143,10 @@ void DirectoryWalk::VisitBatch(std::size_t size) {
 bool DirectoryWalk::CloseFarthest() {
   if (open_count_ < 2) return false;
   Level& farthest = levels_[farthest_open_];
-  farthest.closed = IdentityOf(farthest.directory);
-  if (farthest.closed == FileIdentity()) return false;
+  if (farthest.identity == FileIdentity()) {
+    farthest.identity = IdentityOf(farthest.directory);
+  }
+  if (farthest.identity == FileIdentity()) return false;
   farthest.directory = FileDescriptor();
   ++farthest_open_;
   --open_count_;
@@ -146,8 +158,8 @@ bool DirectoryWalk::OpenParentOfTop() {
   if (levels_.size() < 2) return true;
   Level& parent = levels_[levels_.size() - 2];
   if (parent.directory.IsOpen()) return true;
-  FileDescriptor found = OpenDirectory(levels_.back().directory.Get(), "..");
-  if (!found.IsOpen() || IdentityOf(found) != parent.closed) return false;
+  FileDescriptor found = OpenPlace(levels_.back().directory.Get(), "..");
+  if (!found.IsOpen() || IdentityOf(found) != parent.identity) return false;
   parent.directory = std::move(found);
   farthest_open_ = levels_.size() - 2;
   ++open_count_;

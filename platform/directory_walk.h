@@ -31,11 +31,15 @@ class DirectoryWalk {
   DirectoryWalk& operator=(const DirectoryWalk&) = delete;
 
  protected:
-  DirectoryWalk();
+  enum Way {
+    kThereAndBack,
+    kThere,  // does not call LeaveDirectory: the last levels need no way back
+  };
+  explicit DirectoryWalk(Way way);
   virtual ~DirectoryWalk();
 
   // Walks the tree at `name`, which is relative to the open directory `parent`
-  // as for openat(2). `identity` is passed to EnterDirectory.
+  // as for openat(2). `identity`, if known, is passed to EnterDirectory.
   void Walk(int parent, const char* name, const FileIdentity& identity = {});
 
   // An entry of the directory open at `directory`; `type` is one of the DT_
@@ -71,11 +75,14 @@ class DirectoryWalk {
   // Gives up descriptors of the walk's own when the process has none left.
   [[nodiscard]] FileDescriptor OpenBelowTop(const char* name);
 
+  const Way way_;
   int start_ = -1;
   // From the start of the walk to where it is. The open ones are always the
   // last, from the farthest.
   std::vector<Level> levels_;
   std::size_t farthest_open_ = 0;
   std::size_t open_count_ = 0;
+  // In all levels.
+  std::size_t waiting_count_ = 0;
   alignas(dirent64) unsigned char batch_[32768];
 };

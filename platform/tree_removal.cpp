@@ -15,7 +15,8 @@ constexpr char kUnlinkFile[] = "RemoveFilesRecursively: unlink file";
 
 }  // namespace
 
-TreeRemoval::TreeRemoval(FilePredicate* predicate) : predicate_(predicate) {}
+TreeRemoval::TreeRemoval(FilePredicate* predicate)
+    : DirectoryWalk(kThereAndBack), predicate_(predicate) {}
 
 bool TreeRemoval::Remove(int directory, const char* name,
                          std::string directory_path) {
