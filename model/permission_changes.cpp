@@ -28,12 +28,7 @@ bool SetStateOfListedSites(const Permission& permission,
   bool all_done = true;
   const SASM::SDIVector* sites = SettingBase::mSettingsManager->GetDomains();
   for (unsigned int i = 0; sites && i < sites->count; ++i) {
-    const SimpleString& site = sites->At(i)->name;
-    // A limit of the master domain is set for all sites, which would not end.
-    if (permission.limit_key && site == SettingsManager::MasterDomain()) {
-      continue;
-    }
-    all_done = SetSiteState(permission, site, state) && all_done;
+    all_done = SetSiteState(permission, sites->At(i)->name, state) && all_done;
   }
   return all_done;
 }
