@@ -12,3 +12,6 @@ extern std::function<void(const std::string& directory,
 
 // Called in the place of usleep(3), where it is set.
 extern std::function<void()> instead_of_waiting;
+
+// How many calls of openat(2) there have been.
+extern int openat_calls;
