@@ -14,16 +14,22 @@
 namespace NCPStrings {
 namespace {
 
-// One variable for each language: a compiler limits the steps of a single one.
+// Variables for each language: a compiler limits the steps of a single one.
 template <std::size_t index>
 constexpr RowFault kFault = FirstFault(kLanguageFiles[0],
                                        kLanguageFiles[index]);
+template <std::size_t index>
+constexpr RowFault kFaultOfBreaks =
+    FirstFaultOfBreaks(static_cast<Language>(index), kLanguageFiles[index]);
+
+template <std::size_t index, const RowFault& found>
+constexpr bool kIsSound =
+    CheckedRow<static_cast<Language>(index), found.id, found.fault>::kIsSound;
 
 template <std::size_t... indexes>
 consteval bool AllAreSound(std::index_sequence<indexes...>) {
-  return (CheckedRow<static_cast<Language>(indexes), kFault<indexes>.id,
-                     kFault<indexes>.fault>::kIsSound &&
-          ...);
+  return ((kIsSound<indexes, kFault<indexes>> &&
+           kIsSound<indexes, kFaultOfBreaks<indexes>>)&&...);
 }
 constexpr bool kFilesAreSound =
     AllAreSound(std::make_index_sequence<kLanguageCount>());

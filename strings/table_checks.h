@@ -22,6 +22,8 @@ enum class Fault {
   kInvalidUtf8,
   kMarkupCharacter,
   kSharedTextDiffers,
+  kBreakAfterOneLetter,
+  kBreakBeforeNumber,
 };
 
 struct RowFault {
@@ -32,6 +34,15 @@ struct RowFault {
 // Rows that show one text in two places.
 inline constexpr std::array<unsigned int, 2> kSharedTexts[] = {
     {21003, 21106}, {21107, 92001}, {31006, 92002}, {41200, 92003}};
+
+// Texts that are broken into lines where they are shown.
+inline constexpr unsigned int kWrappedTexts[] = {
+    11501, 11502, 21002, 21101, 21301, 41002, 41101, 41105, 41106, 51101, 51206,
+    51401, 61006, 61008, 61010, 71001, 71003, 71008, 71009, 81001, 84001};
+
+// In these no line ends with a word of one letter.
+inline constexpr Language kWithOneLetterWords[] = {
+    Language::kCzech, Language::kPolish, Language::kRussian};
 
 // A compiler limits the steps that a constant may take, and these loops read
 // every byte of a language: they call nothing for a byte of ASCII.
@@ -125,6 +136,50 @@ constexpr RowFault FirstFaultOfSharedTexts(std::span<const TextRow> rows) {
     if (TextUnder(first, rows) != TextUnder(second, rows)) {
       return {second, Fault::kSharedTextDiffers};
     }
+  }
+  return {};
+}
+
+// Latin and Cyrillic letters beyond ASCII take two bytes; all other characters
+// of a text that do begin with 0xC2.
+constexpr bool BeginsLetter(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+         (byte > 0xC2 && byte < 0xE0);
+}
+
+constexpr bool HasOneLetterWords(Language language) {
+  for (const Language listed : kWithOneLetterWords) {
+    if (listed == language) return true;
+  }
+  return false;
+}
+
+// A line may end at a plain blank, but not at a no-break space.
+constexpr Fault FaultOfBreaks(Language language, std::string_view text) {
+  const bool joins_letters = HasOneLetterWords(language);
+  int letters = 0;  // of the word so far
+  char last = '\0';
+  for (const char c : text) {
+    const bool is_break = c == ' ';
+    if (last == ' ' && c >= '0' && c <= '9') return Fault::kBreakBeforeNumber;
+    if (is_break && letters == 1 && joins_letters) {
+      return Fault::kBreakAfterOneLetter;
+    }
+    const bool is_no_break = last == '\xC2' && c == '\xA0';
+    letters = is_break || is_no_break ? 0 : letters + BeginsLetter(c);
+    last = c;
+  }
+  return Fault::kNone;
+}
+
+constexpr RowFault FirstFaultOfBreaks(Language language,
+                                      std::span<const TextRow> rows) {
+  // The English texts are given, and broken as they are.
+  if (language == Language::kEnglish) return {};
+  for (const unsigned int id : kWrappedTexts) {
+    const Fault fault = FaultOfBreaks(language, TextUnder(id, rows));
+    if (fault != Fault::kNone) return {id, fault};
   }
   return {};
 }

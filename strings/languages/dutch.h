@@ -190,7 +190,7 @@ inline constexpr TextRow kDutchTexts[] = {
     {83001, "Vertrouwd bestand kiezen"},
     // Editing a trusted location
     {84000, "Compatibiliteitslocatie bewerken"},
-    {84001, "Deze locatie vertrouwen en het gebruik van beveiligingsinstellingen toestaan die compatibel zijn met Corvane Player 7:"},
+    {84001, "Deze locatie vertrouwen en het gebruik van beveiligingsinstellingen toestaan die compatibel zijn met Corvane Player\u00A07:"},
     // Adding a site
     {91000, "Domein van de website:"},
     {91001, "Voorbeeld: www.example.com, example.com"},

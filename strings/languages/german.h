@@ -123,7 +123,7 @@ inline constexpr TextRow kGermanTexts[] = {
     // Advanced page: browsing data and updates
     {51000, "Erweitert"},
     {51100, "Browserdaten und Einstellungen"},
-    {51101, "Löschen Sie den gesamten lokalen Speicher, gespeicherte Entscheidungen, Einstellungen und andere Daten, die von Inhalten in Corvane Player in allen Browsern auf diesem Computer verwendet werden."},
+    {51101, "Löschen Sie den gesamten lokalen Speicher, gespeicherte Entscheidungen, Einstellungen und andere Daten, die Inhalte in Corvane Player in allen Browsern auf diesem Computer verwenden."},
     {51200, "Updates"},
     {51201, "Corvane Player kann automatisch nach Updates suchen, um zum Schutz Ihres Computers beizutragen. Ohne Updates ist dieser Computer möglicherweise anfällig für Sicherheitsbedrohungen."},
     {51202, "Verfügbare Updates automatisch installieren (empfohlen)"},
@@ -189,7 +189,7 @@ inline constexpr TextRow kGermanTexts[] = {
     {83001, "Vertrauenswürdige Datei auswählen"},
     // Editing a trusted location
     {84000, "Speicherort für Kompatibilität bearbeiten"},
-    {84001, "Diesem Speicherort vertrauen und dafür Sicherheitseinstellungen zulassen, die mit Corvane Player 7 kompatibel sind:"},
+    {84001, "Diesem Speicherort vertrauen und dafür Sicherheitseinstellungen zulassen, die mit Corvane Player\u00A07 kompatibel sind:"},
     // Adding a site
     {91000, "Domain der Website:"},
     {91001, "Beispiel: www.example.com, example.com"},

@@ -190,7 +190,7 @@ inline constexpr TextRow kItalianTexts[] = {
     {83001, "Seleziona un file attendibile"},
     // Editing a trusted location
     {84000, "Modifica posizione di compatibilità"},
-    {84001, "Considera attendibile questa posizione e consenti l’uso di impostazioni di sicurezza compatibili con Corvane Player 7:"},
+    {84001, "Considera attendibile questa posizione e consenti l’uso di impostazioni di sicurezza compatibili con Corvane Player\u00A07:"},
     // Adding a site
     {91000, "Dominio del sito web:"},
     {91001, "Esempio: www.example.com, example.com"},

@@ -194,7 +194,7 @@ inline constexpr TextRow kJapaneseTexts[] = {
     {83001, "信頼できるファイルの選択"},
     // Editing a trusted location
     {84000, "互換設定を使用する場所の編集"},
-    {84001, "この場所を信頼し、Corvane Player 7 互換のセキュリティ設定の使用を許可する："},
+    {84001, "この場所を信頼し、Corvane Player\u00A07 互換のセキュリティ設定の使用を許可する："},
     // Adding a site
     {91000, "ウェブサイトのドメイン："},
     {91001, "例：www.example.com, example.com"},

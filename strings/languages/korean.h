@@ -194,7 +194,7 @@ inline constexpr TextRow kKoreanTexts[] = {
     {83001, "신뢰할 수 있는 파일 선택"},
     // Editing a trusted location
     {84000, "호환성 위치 편집"},
-    {84001, "이 위치를 신뢰하고 Corvane Player 7 호환 보안 설정을 사용하도록 허용:"},
+    {84001, "이 위치를 신뢰하고 Corvane Player\u00A07 호환 보안 설정을 사용하도록 허용:"},
     // Adding a site
     {91000, "웹사이트 도메인:"},
     {91001, "예: www.example.com, example.com"},

@@ -191,7 +191,7 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {83001, "Escolher o arquivo confiável"},
     // Editing a trusted location
     {84000, "Editar local de compatibilidade"},
-    {84001, "Confiar neste local e permitir que ele use configurações de segurança compatíveis com o Corvane Player 7:"},
+    {84001, "Confiar neste local e permitir que ele use configurações de segurança compatíveis com o Corvane Player\u00A07:"},
     // Adding a site
     {91000, "Domínio do site:"},
     {91001, "Exemplo: www.example.com, example.com"},

@@ -193,7 +193,7 @@ inline constexpr TextRow kSimplifiedChineseTexts[] = {
     {83001, "选择受信任的文件"},
     // Editing a trusted location
     {84000, "编辑兼容性位置"},
-    {84001, "信任此位置，并允许其使用与 Corvane Player 7 兼容的安全设置："},
+    {84001, "信任此位置，并允许其使用与 Corvane Player\u00A07 兼容的安全设置："},
     // Adding a site
     {91000, "网站域名："},
     {91001, "示例：www.example.com, example.com"},

@@ -190,7 +190,7 @@ inline constexpr TextRow kSpanishTexts[] = {
     {83001, "Seleccionar un archivo de confianza"},
     // Editing a trusted location
     {84000, "Editar ubicación de compatibilidad"},
-    {84001, "Confiar en esta ubicación y permitir que use una configuración de seguridad compatible con Corvane Player 7:"},
+    {84001, "Confiar en esta ubicación y permitir que use una configuración de seguridad compatible con Corvane Player\u00A07:"},
     // Adding a site
     {91000, "Dominio del sitio web:"},
     {91001, "Ejemplo: www.example.com, example.com"},

@@ -146,7 +146,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     // Versions of the plug-in
     {52000, "ActiveX-version:"},
     {52001, "Insticksmodulens version:"},
-    {52002, "Inte installerat"},
+    {52002, "Inte installerad"},
     {53000, "Version %s av insticksmodulen är installerad."},
     {53001, "Insticksmodulen är inte installerad."},
     // Site lists: column heads, titles, explanations
@@ -190,7 +190,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     {83001, "Välj betrodd fil"},
     // Editing a trusted location
     {84000, "Redigera kompatibilitetsplats"},
-    {84001, "Lita på den här platsen och tillåt att den använder säkerhetsinställningar som är kompatibla med Corvane Player 7:"},
+    {84001, "Lita på den här platsen och tillåt att den använder säkerhetsinställningar som är kompatibla med Corvane Player\u00A07:"},
     // Adding a site
     {91000, "Webbplatsens domän:"},
     {91001, "Exempel: www.example.com, example.com"},

@@ -10,7 +10,7 @@
 //   local storage ............... 本機儲存空間
 //   setting ..................... 設定
 //   allow ....................... 允許
-//   block ....................... 封鎖 (as a choice), 禁止 (in sentences)
+//   block ....................... 禁止
 //   ask ......................... 詢問
 //   camera ...................... 攝影機
 //   microphone .................. 麥克風
@@ -46,7 +46,7 @@ inline constexpr TextRow kTraditionalChineseTexts[] = {
     {11014, "全部移除"},
     {11015, "編輯…"},
     // Permissions, as choices in a list
-    {11100, "封鎖"},
+    {11100, "禁止"},
     {11101, "詢問"},
     {11102, "允許"},
     {11103, "詢問是否允許"},
@@ -193,7 +193,7 @@ inline constexpr TextRow kTraditionalChineseTexts[] = {
     {83001, "選擇信任的檔案"},
     // Editing a trusted location
     {84000, "編輯相容性位置"},
-    {84001, "信任這個位置，並允許它使用與 Corvane Player 7 相容的安全性設定："},
+    {84001, "信任這個位置，並允許它使用與 Corvane Player\u00A07 相容的安全性設定："},
     // Adding a site
     {91000, "網站網域："},
     {91001, "範例：www.example.com, example.com"},

@@ -192,7 +192,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     {83001, "Güvenilir Dosya Seçin"},
     // Editing a trusted location
     {84000, "Uyumluluk Konumunu Düzenle"},
-    {84001, "Bu konuma güven ve Corvane Player 7 ile uyumlu güvenlik ayarlarını kullanmasına izin ver:"},
+    {84001, "Bu konuma güven ve Corvane Player\u00A07 ile uyumlu güvenlik ayarlarını kullanmasına izin ver:"},
     // Adding a site
     {91000, "Web Sitesi Alan Adı:"},
     {91001, "Örnek: www.example.com, example.com"},
