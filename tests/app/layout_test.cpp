@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kLargestWidth = 800;
 constexpr int kLargestHeight = 600;
+constexpr char kLargestFont[] = "Sans 11";
 
 // What the toolkit brings itself, and what people use.
 constexpr char kBareTheme[] = "/dev/null";
@@ -67,6 +68,9 @@ class LayoutTest : public PanelTest,
     setenv("LC_ALL", (locale + ".UTF-8").c_str(), 1);
     ASSERT_TRUE(std::setlocale(LC_ALL, ""))
         << "there are no locales: run these tests as ./test does";
+    gtk_init(nullptr, nullptr);
+    g_object_set(gtk_settings_get_default(), "gtk-font-name", kLargestFont,
+                 nullptr);
     if (locale == "he_IL") gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
     Start();
   }
