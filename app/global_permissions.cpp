@@ -1,6 +1,7 @@
 // The permissions of all sites: the radio buttons of the pages, and the
 // buttons that lead to the permissions by site.
 #include "app/dialogs.h"
+#include "app/lists.h"
 #include "app/notebook_pages.h"
 #include "model/permission_changes.h"
 
@@ -24,8 +25,8 @@ PermissionState StateOfSwitch(GtkToggleButton* button) {
                                               : kPermissionStateAlwaysAsk;
 }
 
-void ShowDialog(GnomeTCCapplet* panel, const char* dialog_id) {
-  gtk_window_present(GTK_WINDOW(get_widget(panel->builder, dialog_id)));
+void ShowDialog(GnomeTCCapplet* panel, const List& list) {
+  gtk_window_present(GTK_WINDOW(get_widget(panel->builder, list.dialog)));
 }
 
 }  // namespace
@@ -68,23 +69,23 @@ G_MODULE_EXPORT void on_site_p2p_always_deny_rbutton_toggled(
 
 G_MODULE_EXPORT void on_site_storage_button_clicked(GtkButton*,
                                                     GnomeTCCapplet* panel) {
-  ShowDialog(panel, "storage_by_site_dialog");
+  ShowDialog(panel, kLists[kStorageList]);
 }
 
 G_MODULE_EXPORT void on_site_privacy_button_clicked(GtkButton*,
                                                     GnomeTCCapplet* panel) {
-  ShowDialog(panel, "cam_and_mic_by_site_dialog");
+  ShowDialog(panel, kLists[kCameraList]);
 }
 
 G_MODULE_EXPORT void on_site_p2p_button_clicked(GtkButton*,
                                                 GnomeTCCapplet* panel) {
-  ShowDialog(panel, "p2p_by_site_dialog");
+  ShowDialog(panel, kLists[kNetworkList]);
 }
 
 G_MODULE_EXPORT void on_compat_settings_button_clicked(GtkButton*,
                                                        GnomeTCCapplet* panel) {
   update_notebook_page(panel, kCurrentPage);
-  ShowDialog(panel, "compat_settings_dialog");
+  ShowDialog(panel, kLists[kLocationList]);
 }
 
 // There is no place to say that the page could not be opened.

@@ -32,7 +32,12 @@ typedef struct _GnomeTCCapplet {  // NOLINT(bugprone-reserved-identifier)
   SASM::SettingsManager* settings;
   // Empty but for the time of one removal.
   SelectedRow* selected_rows;
-  // Which site dialog opened the new-site dialog last: an index of
-  // kSitePermissions.
+  // The list for which the new-site dialog was opened last: a ListIndex.
   gint32 new_site_mode;
 } GnomeTCCapplet;
+
+// The global settings, borrowed from the settings manager.
+inline const SASM::SettingsDictionary* master_settings(GnomeTCCapplet* panel) {
+  return panel->settings->EnsureSettingsAreLoadedForDomain(
+      SASM::SettingsManager::MasterDomain());
+}

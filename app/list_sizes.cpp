@@ -4,31 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "app/lists.h"
 #include "app/widget_helpers.h"
 #include "model/storage_setting.h"
 
 namespace {
-
-enum class Content { kName, kUsedSpace, kPermission };
-
-struct SizedColumn {
-  const char* tree_view;
-  const char* column;
-  Content content;
-};
-
-constexpr SizedColumn kSizedColumns[] = {
-    {"site_storage_treeview", "site_storage_site_column", Content::kName},
-    {"site_storage_treeview", "site_storage_used_column", Content::kUsedSpace},
-    {"site_storage_treeview", "site_storage_permission_column",
-     Content::kPermission},
-    {"site_privacy_treeview", "site_privacy_site_column", Content::kName},
-    {"site_privacy_treeview", "site_privacy_cam_and_mic_column",
-     Content::kPermission},
-    {"site_p2p_treeview", "site_p2p_site_column", Content::kName},
-    {"site_p2p_treeview", "site_p2p_permission_column", Content::kPermission},
-    {"trusted_locations_treeview", "trusted_location_column", Content::kName},
-};
 
 // The longest text of each unit of size.
 constexpr double kLongSizes[] = {0, 1023, 1048064, 1073741823, 1099511627775};
@@ -36,16 +16,21 @@ constexpr double kLongSizes[] = {0, 1023, 1048064, 1073741823, 1099511627775};
 // Texts as wide as any that the column will show.
 std::vector<std::string> WidestTexts(GnomeTCCapplet* panel, Content content) {
   std::vector<std::string> texts;
-  if (content == Content::kPermission) {
-    for (const PermissionChoice& choice : kPermissionChoices) {
-      texts.emplace_back(permission_state_text(panel, choice.state));
-    }
-  } else if (content == Content::kUsedSpace) {
-    for (const double bytes : kLongSizes) {
-      texts.push_back(StorageSetting::TextOfSpace(bytes));
-    }
-  } else {
-    texts.emplace_back();  // a name takes a width of its own, and is cut to it
+  switch (content) {
+    case Content::kUsedSpace:
+      for (const double bytes : kLongSizes) {
+        texts.push_back(StorageSetting::TextOfSpace(bytes));
+      }
+      break;
+    case Content::kPermission:
+      for (const PermissionChoice& choice : kPermissionChoices) {
+        texts.emplace_back(permission_state_text(panel, choice.state));
+      }
+      break;
+    case Content::kSite:
+    case Content::kLocation:
+      texts.emplace_back();  // takes the renderer's own width, and is cut to it
+      break;
   }
   return texts;
 }
@@ -71,29 +56,31 @@ int CellWidth(GtkTreeViewColumn* column, const std::string& text) {
   return width + separator;
 }
 
-void SetWidths(GtkWidget* view, GtkStyle*, gpointer data) {
-  auto* panel = static_cast<GnomeTCCapplet*>(data);
-  for (const SizedColumn& row : kSizedColumns) {
-    GtkTreeViewColumn* column = get_column(panel->builder, row.column);
-    if (gtk_tree_view_column_get_tree_view(column) != view) continue;
-    int width = TitleWidth(column);
-    for (const std::string& text : WidestTexts(panel, row.content)) {
-      width = std::max(width, CellWidth(column, text));
-    }
-    gtk_tree_view_column_set_fixed_width(column, width);
+void SetWidth(GnomeTCCapplet* panel, const Column& row) {
+  GtkTreeViewColumn* column = get_column(panel->builder, row.id);
+  int width = TitleWidth(column);
+  for (const std::string& text : WidestTexts(panel, row.content)) {
+    width = std::max(width, CellWidth(column, text));
+  }
+  gtk_tree_view_column_set_fixed_width(column, width);
+}
+
+void SetWidths(GtkWidget* view, GtkStyle*, GnomeTCCapplet* panel) {
+  for (const List& list : kLists) {
+    if (get_widget(panel->builder, list.tree_view) != view) continue;
+    for (const Column& column : list.columns) SetWidth(panel, column);
   }
 }
 
 }  // namespace
 
 void fix_list_sizes(GnomeTCCapplet* panel) {
-  for (const SizedColumn& row : kSizedColumns) {
-    GtkTreeViewColumn* column = get_column(panel->builder, row.column);
-    gtk_tree_view_column_set_sizing(column, GTK_TREE_VIEW_COLUMN_FIXED);
-  }
-  for (const SizedColumn& row : kSizedColumns) {
-    GtkTreeView* view = get_tree_view(panel->builder, row.tree_view);
-    if (gtk_tree_view_get_fixed_height_mode(view)) continue;
+  for (const List& list : kLists) {
+    for (const Column& column : list.columns) {
+      gtk_tree_view_column_set_sizing(get_column(panel->builder, column.id),
+                                      GTK_TREE_VIEW_COLUMN_FIXED);
+    }
+    GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
     SetWidths(GTK_WIDGET(view), nullptr, panel);
     gtk_tree_view_set_fixed_height_mode(view, TRUE);
     g_signal_connect(view, "style-set", G_CALLBACK(SetWidths), panel);

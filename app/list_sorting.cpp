@@ -7,73 +7,47 @@
 
 namespace {
 
-struct SortableColumn {
-  const char* column;
-  int sort_id;
-};
+// Set on a list store whose rows are being appended in its order.
+GQuark InOrder() { return g_quark_from_static_string("rows-are-in-order"); }
 
-constexpr SortableColumn kSortableColumns[] = {
-    {"site_privacy_site_column", 0},
-    {"site_privacy_cam_and_mic_column", 2},
-    {"site_storage_site_column", 0},
-    {"site_storage_used_column", 2},
-    {"site_storage_permission_column", 4},
-    {"site_p2p_site_column", 0},
-    {"site_p2p_permission_column", 2},
-    {"trusted_location_column", 0},
-};
-
-bool rows_are_in_order = false;
-
-std::string ReversedColumn(GtkTreeModel* model, GtkTreeIter* row,
-                           gpointer column) {
-  const SASM::SimpleString text =
-      get_text_field(model, row, GPOINTER_TO_INT(column));
-  return reverse_domain_components(text.c_str());
+SortKey DomainKey(GtkTreeModel* model, GtkTreeIter* row, int column) {
+  return sort_key_of_domain(get_text_field(model, row, column).c_str());
 }
 
-guint UnsignedColumn(GtkTreeModel* model, GtkTreeIter* row, gpointer column) {
-  guint value = 0;
-  gtk_tree_model_get(model, row, GPOINTER_TO_INT(column), &value, -1);
-  return value;
+SortKey NumberKey(GtkTreeModel* model, GtkTreeIter* row, int column) {
+  guint number = 0;
+  gtk_tree_model_get(model, row, column, &number, -1);
+  return {.number = number};
+}
+
+gint Compare(SortKey (*key_of)(GtkTreeModel*, GtkTreeIter*, int),
+             GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
+             gpointer data) {
+  if (g_object_get_qdata(G_OBJECT(model), InOrder())) return 0;
+  const int column = GPOINTER_TO_INT(data);
+  const auto order = key_of(model, a, column) <=> key_of(model, b, column);
+  return order < 0 ? -1 : order > 0 ? 1 : 0;
+}
+
+// Null where the toolkit's own order serves.
+GtkTreeIterCompareFunc SortFunctionFor(Content content) {
+  switch (content) {
+    case Content::kSite:
+      return compare_domain_column;
+    case Content::kUsedSpace:
+    case Content::kPermission:
+      return compare_int_column;
+    case Content::kLocation:
+      break;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
-// As the toolkit's own calls of this kind, it takes a list ended by -1.
-// NOLINTNEXTLINE(cert-dcl50-cpp)
-void tree_model_set_column_comparator(GnomeTCCapplet* panel,
-                                      const char* list_store_id,
-                                      GtkTreeIterCompareFunc compare,
-                                      int sort_id, ...) {
-  GtkListStore* store = get_list_store(panel->builder, list_store_id);
-  va_list more;
-  va_start(more, sort_id);
-  for (; sort_id >= 0; sort_id = va_arg(more, int)) {
-    gtk_tree_sortable_set_sort_func(GTK_TREE_SORTABLE(store), sort_id, compare,
-                                    GINT_TO_POINTER(sort_id), nullptr);
-  }
-  va_end(more);
+SortKey sort_key_of_domain(const char* domain) {
+  return {.text = reverse_domain_components(domain)};
 }
-
-gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
-                           gpointer column) {
-  if (rows_are_in_order) return 0;
-  return ReversedColumn(model, a, column)
-      .compare(ReversedColumn(model, b, column));
-}
-
-gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
-                        gpointer column) {
-  if (rows_are_in_order) return 0;
-  const guint a_value = UnsignedColumn(model, a, column);
-  const guint b_value = UnsignedColumn(model, b, column);
-  return (a_value > b_value) - (a_value < b_value);
-}
-
-RowsInOrder::RowsInOrder() { rows_are_in_order = true; }
-
-RowsInOrder::~RowsInOrder() { rows_are_in_order = false; }
 
 std::string reverse_domain_components(const char* domain) {
   std::string_view rest = domain;
@@ -89,17 +63,49 @@ std::string reverse_domain_components(const char* domain) {
   return reversed;
 }
 
+gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
+                           gpointer column) {
+  return Compare(DomainKey, model, a, b, column);
+}
+
+gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
+                        gpointer column) {
+  return Compare(NumberKey, model, a, b, column);
+}
+
+// Like the toolkit's own calls of this kind, it takes a list ended by -1.
+// NOLINTNEXTLINE(cert-dcl50-cpp)
+void tree_model_set_column_comparator(GnomeTCCapplet* panel,
+                                      const char* list_store_id,
+                                      GtkTreeIterCompareFunc compare,
+                                      int sort_id, ...) {
+  GtkListStore* store = get_list_store(panel->builder, list_store_id);
+  va_list more;
+  va_start(more, sort_id);
+  for (; sort_id >= 0; sort_id = va_arg(more, int)) {
+    gtk_tree_sortable_set_sort_func(GTK_TREE_SORTABLE(store), sort_id, compare,
+                                    GINT_TO_POINTER(sort_id), nullptr);
+  }
+  va_end(more);
+}
+
 void prepare_list_sorting(GnomeTCCapplet* panel) {
-  tree_model_set_column_comparator(panel, "site_storage_list",
-                                   compare_domain_column, 0, -1);
-  tree_model_set_column_comparator(panel, "site_storage_list",
-                                   compare_int_column, 2, 4, -1);
-  for (const char* list : {"site_privacy_list", "site_p2p_list"}) {
-    tree_model_set_column_comparator(panel, list, compare_domain_column, 0, -1);
-    tree_model_set_column_comparator(panel, list, compare_int_column, 2, -1);
+  for (const List& list : kLists) {
+    for (const Column& column : list.columns) {
+      if (const auto compare = SortFunctionFor(column.content)) {
+        tree_model_set_column_comparator(panel, list.store, compare,
+                                         column.sort_column, -1);
+      }
+      gtk_tree_view_column_set_sort_column_id(
+          get_column(panel->builder, column.id), column.sort_column);
+    }
   }
-  for (const SortableColumn& row : kSortableColumns) {
-    gtk_tree_view_column_set_sort_column_id(
-        get_column(panel->builder, row.column), row.sort_id);
-  }
+}
+
+RowsInOrder::RowsInOrder(GtkListStore* store) : store_(store) {
+  g_object_set_qdata(G_OBJECT(store_), InOrder(), store_);
+}
+
+RowsInOrder::~RowsInOrder() {
+  g_object_set_qdata(G_OBJECT(store_), InOrder(), nullptr);
 }

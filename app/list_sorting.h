@@ -1,9 +1,32 @@
 // Sorting of lists by a click on a column's head.
 #pragma once
 
+#include <compare>
 #include <string>
 
 #include "app/gnome_tcc_applet.h"
+#include "app/lists.h"
+
+// What rows are compared by: a number, or a text byte by byte.
+struct SortKey {
+  guint number = 0;
+  std::string text = {};
+
+  auto operator<=>(const SortKey&) const = default;
+};
+
+// Domains are compared by their components from the last to the first.
+SortKey sort_key_of_domain(const char* domain);
+
+// "shop.example.com" becomes "com.example.shop"; empty components are dropped.
+std::string reverse_domain_components(const char* domain);
+
+// Sort functions of list stores, by the keys of a column: of a text column that
+// holds domains, and of a column of integers, which are taken as unsigned.
+gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
+                           gpointer column);
+gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
+                        gpointer column);
 
 // Registers the function on the list store for each of the sort ids, which
 // end at the first negative one. A sort id is the column that the function
@@ -13,25 +36,19 @@ void tree_model_set_column_comparator(GnomeTCCapplet* panel,
                                       GtkTreeIterCompareFunc compare,
                                       int sort_id, ...);
 
-// Sort functions. Domain names compare by their components from the last to
-// the first, byte by byte; integers as unsigned ones.
-gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
-                           gpointer column);
-gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
-                        gpointer column);
+// Gives the lists their sort functions and the columns their sort ids.
+void prepare_list_sorting(GnomeTCCapplet* panel);
 
-// While it lives the sort functions take all rows for equal: a sorted list that
-// is filled in its order then keeps each row where it is put.
+// While it lives, the sort functions call all rows of the list store equal:
+// rows that are appended in the order of a sorted list then cost no
+// comparison.
 class RowsInOrder {
  public:
-  RowsInOrder();
+  explicit RowsInOrder(GtkListStore* store);
   ~RowsInOrder();
   RowsInOrder(const RowsInOrder&) = delete;
   RowsInOrder& operator=(const RowsInOrder&) = delete;
+
+ private:
+  GtkListStore* store_;
 };
-
-// "shop.example.com" becomes "com.example.shop". Empty components go.
-std::string reverse_domain_components(const char* domain);
-
-// Gives the lists their sort functions and the columns their sort ids.
-void prepare_list_sorting(GnomeTCCapplet* panel);

@@ -2,11 +2,12 @@
 
 #include <string>
 
+#include "app/lists.h"
 #include "app/widget_helpers.h"
 
 namespace {
 
-enum class TextKind { kTitle, kBoldLabel, kLabel, kButton, kColumn };
+enum class TextKind { kTitle, kBoldLabel, kLabel, kButton };
 
 struct LocalizedWidget {
   const char* id;
@@ -22,7 +23,7 @@ constexpr char kClearsSiteData[] =
     "Clearing local storage may erase saved work, game progress, "
     "history, or preferences.";
 
-// In the order in which they get their texts.
+// In the order in which they get their texts. The titles of columns follow.
 constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"tessary_corvane_dialog", TextKind::kTitle, 11400,
      "Tessary Corvane Player Preferences"},
@@ -148,17 +149,6 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"trusted_location_label1", TextKind::kLabel, 84001,
      "Trust this location and allow it to use Corvane Player 7 "
      "compatible security settings:"},
-    {"site_privacy_site_column", TextKind::kColumn, 61000, "Site"},
-    {"site_privacy_cam_and_mic_column", TextKind::kColumn, 61001,
-     "Camera and Mic Access"},
-    {"site_storage_site_column", TextKind::kColumn, 61000, "Website"},
-    {"site_storage_used_column", TextKind::kColumn, 61004, "Used"},
-    {"site_storage_permission_column", TextKind::kColumn, 61003,
-     "Storage Permission"},
-    {"site_p2p_site_column", TextKind::kColumn, 61000, "Website"},
-    {"site_p2p_permission_column", TextKind::kColumn, 61002, "Permission"},
-    {"trusted_location_column", TextKind::kColumn, 81003,
-     "Filesystem location"},
 };
 
 void Localize(GnomeTCCapplet* panel, const LocalizedWidget& row) {
@@ -172,9 +162,22 @@ void Localize(GnomeTCCapplet* panel, const LocalizedWidget& row) {
                             nullptr);
     case TextKind::kButton:
       return set_button_label(panel, row.id, row.string_id, row.fallback);
-    case TextKind::kColumn:
-      return set_column_title(panel, row.id, row.string_id, row.fallback);
   }
+}
+
+void LocalizeLists(GnomeTCCapplet* panel) {
+  for (const List& list : kLists) {
+    for (const Column& column : list.columns) {
+      set_column_title(panel, column.id, column.title_id, column.fallback);
+    }
+    set_accessible_name(panel, list.tree_view, list.accessible_name_id);
+  }
+}
+
+// An entry is called what its label says.
+void NameEntries(GnomeTCCapplet* panel) {
+  set_accessible_name(panel, "new_site_entry", 91000);
+  set_accessible_name(panel, "trusted_location_entry", 84001);
 }
 
 void LocalizePermissionChoices(GnomeTCCapplet* panel) {
@@ -197,6 +200,8 @@ void LocalizeLicenceReset(GnomeTCCapplet* panel) {
 
 void localize_widgets(GnomeTCCapplet* panel) {
   for (const LocalizedWidget& row : kLocalizedWidgets) Localize(panel, row);
+  LocalizeLists(panel);
   LocalizePermissionChoices(panel);
   LocalizeLicenceReset(panel);
+  NameEntries(panel);
 }

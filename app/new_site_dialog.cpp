@@ -1,7 +1,8 @@
 // The dialog that adds a site, shared by the three site dialogs.
 #include "app/dialogs.h"
+#include "app/lists.h"
 #include "app/notebook_pages.h"
-#include "app/site_lists.h"
+#include "app/permission_choices.h"
 #include "model/permission_changes.h"
 
 using SASM::SimpleString;
@@ -33,9 +34,9 @@ PermissionState get_combo_permission_enum(GnomeTCCapplet* panel,
              : kPermissionStateNone;
 }
 
-void AskForSite(GnomeTCCapplet* panel, SitePermissionMode mode) {
-  const SitePermission& list = kSitePermissions[mode];
-  const Permission& permission = kPermissions[list.permission];
+void AskForSite(GnomeTCCapplet* panel, ListIndex index) {
+  const List& list = kLists[index];
+  const Permission& permission = *list.permission;
   set_sensitive(panel, kAddButton, false);
   set_combo_permission_enum(panel, kPermission,
                             NewSiteState(permission, master_settings(panel)));
@@ -46,7 +47,7 @@ void AskForSite(GnomeTCCapplet* panel, SitePermissionMode mode) {
   gtk_entry_set_text(GTK_ENTRY(entry), "");
   gtk_window_set_focus(GTK_WINDOW(get_widget(panel->builder, kDialog)), entry);
   show_dialog_over(panel, kDialog, list.dialog, permission.new_site_title_id);
-  panel->new_site_mode = mode;
+  panel->new_site_mode = index;
 }
 
 }  // namespace
@@ -55,17 +56,17 @@ extern "C" {
 
 G_MODULE_EXPORT void on_add_site_storage_setting_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
-  AskForSite(panel, kStorageMode);
+  AskForSite(panel, kStorageList);
 }
 
 G_MODULE_EXPORT void on_add_site_privacy_setting_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
-  AskForSite(panel, kCameraAndMicMode);
+  AskForSite(panel, kCameraList);
 }
 
 G_MODULE_EXPORT void on_add_site_p2p_setting_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
-  AskForSite(panel, kPeerAssistedMode);
+  AskForSite(panel, kNetworkList);
 }
 
 G_MODULE_EXPORT void on_new_site_entry_changed(GtkEditable* entry,
@@ -76,18 +77,14 @@ G_MODULE_EXPORT void on_new_site_entry_changed(GtkEditable* entry,
 
 G_MODULE_EXPORT void on_new_site_add_button_clicked(GtkButton*,
                                                     GnomeTCCapplet* panel) {
-  if (panel->new_site_mode < 0 ||
-      panel->new_site_mode >=
-          static_cast<int>(G_N_ELEMENTS(kSitePermissions))) {
-    return;
-  }
+  const auto index = static_cast<guint32>(panel->new_site_mode);
+  if (index >= kSiteLists.size()) return;
   const SimpleString domain =
       gtk_entry_get_text(GTK_ENTRY(get_widget(panel->builder, kEntry)));
   // A site that could not be added is missing from the list that follows.
   (void)panel->settings->AddDomainWithDefaultSettings(domain);
-  const PermissionKind kind = kSitePermissions[panel->new_site_mode].permission;
   // Data that could not be deleted is still in the list when it is refilled.
-  (void)SetSiteState(kPermissions[kind], domain,
+  (void)SetSiteState(*kSiteLists[index].permission, domain,
                      get_combo_permission_enum(panel, kPermission));
   update_notebook_page(panel, kCurrentPage);
 }

@@ -1,7 +1,6 @@
 #include "app/notebook_pages.h"
 
-#include "app/site_lists.h"
-#include "app/trusted_locations.h"
+#include "app/list_contents.h"
 #include "app/widget_helpers.h"
 
 namespace {
@@ -39,25 +38,27 @@ constexpr RadioButton kRadioButtons[] = {
     {kNetwork, kPermissionStateAlwaysDeny, "site_p2p_always_deny_rbutton"},
 };
 
-void UpdatePermissionPage(GnomeTCCapplet* panel, SitePermissionMode mode) {
-  const PermissionKind permission = kSitePermissions[mode].permission;
+void UpdatePermissionPage(GnomeTCCapplet* panel, const List& list) {
   const PermissionState state =
-      GlobalState(kPermissions[permission], master_settings(panel));
+      GlobalState(*list.permission, master_settings(panel));
   for (const RadioButton& button : kRadioButtons) {
-    if (button.permission != permission || button.state != state) continue;
-    set_toggle_active(panel, button.id, true);
+    if (button.permission == list.permission->kind && button.state == state) {
+      set_toggle_active(panel, button.id, true);
+    }
   }
-  fill_site_list(panel, mode);
+  fill_list(panel, list);
 }
 
+// A switch that overrides the sites leaves nothing to set for them.
 void UpdatePlaybackPage(GnomeTCCapplet* panel) {
+  const List& list = kLists[kNetworkList];
   const bool are_blocked =
-      IsBlockedEverywhere(kPermissions[kNetwork], master_settings(panel));
-  for (const char* widget : {"add_site_p2p_setting_button", "site_p2p_treeview",
-                             "site_p2p_button"}) {
+      IsBlockedEverywhere(*list.permission, master_settings(panel));
+  for (const char* widget :
+       {list.add_button, list.tree_view, list.page_button}) {
     set_sensitive(panel, widget, !are_blocked);
   }
-  UpdatePermissionPage(panel, kPeerAssistedMode);
+  UpdatePermissionPage(panel, list);
 }
 
 }  // namespace
@@ -68,10 +69,10 @@ void update_notebook_page(GnomeTCCapplet* panel, int page) {
     page = gtk_notebook_get_current_page(
         GTK_NOTEBOOK(get_widget(panel->builder, "tessary_corvane_notebook")));
   }
-  if (page == kStoragePage) UpdatePermissionPage(panel, kStorageMode);
-  if (page == kPrivacyPage) UpdatePermissionPage(panel, kCameraAndMicMode);
+  if (page == kStoragePage) UpdatePermissionPage(panel, kLists[kStorageList]);
+  if (page == kPrivacyPage) UpdatePermissionPage(panel, kLists[kCameraList]);
   if (page == kPlaybackPage) UpdatePlaybackPage(panel);
-  fill_trusted_locations(panel);
+  fill_list(panel, kLists[kLocationList]);
 }
 
 extern "C" G_MODULE_EXPORT void on_tessary_corvane_notebook_switch_page(

@@ -1,6 +1,11 @@
 // The handlers of the three site dialogs.
+#include "app/site_dialogs.h"
+
+#include "app/list_selection.h"
+#include "app/lists.h"
 #include "app/notebook_pages.h"
-#include "app/site_lists.h"
+#include "app/permission_choices.h"
+#include "app/widget_helpers.h"
 #include "model/permission_changes.h"
 
 using SASM::SimpleString;
@@ -13,33 +18,32 @@ struct ChosenState {
   PermissionState* state;
 };
 
-void WriteRow(SitePermissionMode mode, GtkTreeModel* model, GtkTreeIter* row,
+void WriteRow(const List& list, GtkTreeModel* model, GtkTreeIter* row,
               gpointer data) {
   const auto* chosen = static_cast<ChosenState*>(data);
   const SimpleString domain = get_domain_field(chosen->panel, model, row);
   if (domain.IsEmpty()) return;
   // Data that could not be deleted is still in the list when it is refilled.
-  (void)SetSiteState(kPermissions[kSitePermissions[mode].permission], domain,
-                     *chosen->state);
+  (void)SetSiteState(*list.permission, domain, *chosen->state);
 }
 
 void domain_privacy_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
                        gpointer data) {
-  WriteRow(kCameraAndMicMode, model, row, data);
+  WriteRow(kLists[kCameraList], model, row, data);
 }
 
 void domain_storage_choice_cb(GtkTreeModel* model, GtkTreePath*,
                               GtkTreeIter* row, gpointer data) {
-  WriteRow(kStorageMode, model, row, data);
+  WriteRow(kLists[kStorageList], model, row, data);
 }
 
 void domain_p2p_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
                    gpointer data) {
-  WriteRow(kPeerAssistedMode, model, row, data);
+  WriteRow(kLists[kNetworkList], model, row, data);
 }
 
 // Gives the chosen state to every selected site, not only to the edited one.
-void SetSelected(GnomeTCCapplet* panel, SitePermissionMode mode,
+void SetSelected(GnomeTCCapplet* panel, const List& list,
                  GtkCellRendererCombo* renderer, GtkTreeIter* choice,
                  GtkTreeSelectionForeachFunc row_callback) {
   GtkTreeModel* choices = nullptr;
@@ -47,9 +51,12 @@ void SetSelected(GnomeTCCapplet* panel, SitePermissionMode mode,
   PermissionState state = get_choice_state(choices, choice);
   g_object_unref(choices);
   ChosenState chosen = {panel, &state};
-  for_each_selected(panel, kSitePermissions[mode].tree_view, row_callback,
-                    &chosen);
+  for_each_selected(panel, list.tree_view, row_callback, &chosen);
   update_notebook_page(panel, kCurrentPage);
+}
+
+GtkCellRenderer* PermissionRenderer(GnomeTCCapplet* panel, const List& list) {
+  return get_renderer(get_column(panel->builder, PermissionColumn(list).id));
 }
 
 // The state that all selected rows have; None where they differ.
@@ -69,16 +76,22 @@ void ShareState(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
   shared->has_rows = true;
 }
 
+const List& ListOf(GnomeTCCapplet* panel, GtkCellRenderer* renderer) {
+  for (const List& list : kSiteLists) {
+    if (PermissionRenderer(panel, list) == renderer) return list;
+  }
+  g_assert_not_reached();
+}
+
 // The toolkit marks the choice that reads as the edited row does, if any: then
-// what lies under the pointer may not be what the row has, and where the rows
-// differ the marked choice, which is no change, could not be given to all.
-template <SitePermissionMode mode>
+// the choice under the pointer may not be the row's own, and where the rows
+// differ, choosing the marked one is no change and reaches no row.
 void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
                      const char*, GnomeTCCapplet* panel) {
-  const SitePermission& list = kSitePermissions[mode];
-  SharedState shared = {.column = list.state_column};
+  const List& list = ListOf(panel, renderer);
+  SharedState shared = {.column = PermissionColumn(list).sort_column};
   for_each_selected(panel, list.tree_view, ShareState, &shared);
-  // To the renderer every change is a choice of the user.
+  // The renderer takes every change as a choice of the user.
   g_signal_handlers_block_matched(combo_box, G_SIGNAL_MATCH_DATA, 0, 0, nullptr,
                                   nullptr, renderer);
   set_active_state(GTK_COMBO_BOX(combo_box),
@@ -87,74 +100,84 @@ void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
                                     nullptr, nullptr, renderer);
 }
 
-template <SitePermissionMode mode>
-void PrepareChoice(GnomeTCCapplet* panel) {
-  g_signal_connect(get_object(panel->builder, kSitePermissions[mode].renderer,
-                              GTK_TYPE_CELL_RENDERER_COMBO),
-                   "editing-started", G_CALLBACK(MarkSharedState<mode>), panel);
+void CursorChanged(GnomeTCCapplet* panel, const List& list) {
+  if (panel->updating) return;
+  set_sensitive(panel, list.remove_button, true);
 }
 
-void CursorChanged(GnomeTCCapplet* panel, SitePermissionMode mode) {
-  if (panel->updating) return;
-  set_sensitive(panel, kSitePermissions[mode].remove_button, true);
+void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
+                      gpointer data) {
+  auto* panel = static_cast<GnomeTCCapplet*>(data);
+  const SimpleString domain = get_domain_field(panel, model, row);
+  if (domain.IsEmpty()) return;
+  // What could not be removed is still in the list when it is refilled.
+  (void)panel->settings->RemoveDomainInformation(domain, true, true);
+}
+
+// Removes every selected site, with all its data.
+void delete_selected_domains(GnomeTCCapplet* panel, const char* tree_view_id) {
+  for_each_selected(panel, tree_view_id, delete_domain_cb, panel);
+  update_notebook_page(panel, kCurrentPage);
 }
 
 }  // namespace
 
 void prepare_choices(GnomeTCCapplet* panel) {
-  PrepareChoice<kCameraAndMicMode>(panel);
-  PrepareChoice<kStorageMode>(panel);
-  PrepareChoice<kPeerAssistedMode>(panel);
+  for (const List& list : kSiteLists) {
+    g_signal_connect(PermissionRenderer(panel, list), "editing-started",
+                     G_CALLBACK(MarkSharedState), panel);
+  }
 }
 
 extern "C" {
 
 G_MODULE_EXPORT void on_site_storage_treeview_cursor_changed(
     GtkTreeView*, GnomeTCCapplet* panel) {
-  CursorChanged(panel, kStorageMode);
+  CursorChanged(panel, kLists[kStorageList]);
 }
 
 G_MODULE_EXPORT void on_site_privacy_treeview_cursor_changed(
     GtkTreeView*, GnomeTCCapplet* panel) {
-  CursorChanged(panel, kCameraAndMicMode);
+  CursorChanged(panel, kLists[kCameraList]);
 }
 
 G_MODULE_EXPORT void on_site_p2p_treeview_cursor_changed(
     GtkTreeView*, GnomeTCCapplet* panel) {
-  CursorChanged(panel, kPeerAssistedMode);
+  CursorChanged(panel, kLists[kNetworkList]);
 }
 
 G_MODULE_EXPORT void on_site_storage_choice_changed(
     GtkCellRendererCombo* renderer, const char*, GtkTreeIter* choice,
     GnomeTCCapplet* panel) {
-  SetSelected(panel, kStorageMode, renderer, choice, domain_storage_choice_cb);
+  SetSelected(panel, kLists[kStorageList], renderer, choice,
+              domain_storage_choice_cb);
 }
 
 G_MODULE_EXPORT void on_site_privacy_changed(GtkCellRendererCombo* renderer,
                                              const char*, GtkTreeIter* choice,
                                              GnomeTCCapplet* panel) {
-  SetSelected(panel, kCameraAndMicMode, renderer, choice, domain_privacy_cb);
+  SetSelected(panel, kLists[kCameraList], renderer, choice, domain_privacy_cb);
 }
 
 G_MODULE_EXPORT void on_site_p2p_perm_changed(GtkCellRendererCombo* renderer,
                                               const char*, GtkTreeIter* choice,
                                               GnomeTCCapplet* panel) {
-  SetSelected(panel, kPeerAssistedMode, renderer, choice, domain_p2p_cb);
+  SetSelected(panel, kLists[kNetworkList], renderer, choice, domain_p2p_cb);
 }
 
 G_MODULE_EXPORT void on_remove_site_storage_setting_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
-  delete_selected_domains(panel, kSitePermissions[kStorageMode].tree_view);
+  delete_selected_domains(panel, kLists[kStorageList].tree_view);
 }
 
 G_MODULE_EXPORT void on_remove_site_privacy_setting_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
-  delete_selected_domains(panel, kSitePermissions[kCameraAndMicMode].tree_view);
+  delete_selected_domains(panel, kLists[kCameraList].tree_view);
 }
 
 G_MODULE_EXPORT void on_remove_site_p2p_setting_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
-  delete_selected_domains(panel, kSitePermissions[kPeerAssistedMode].tree_view);
+  delete_selected_domains(panel, kLists[kNetworkList].tree_view);
 }
 
 }  // extern "C"

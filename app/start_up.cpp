@@ -9,7 +9,7 @@
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/notebook_pages.h"
-#include "app/site_lists.h"
+#include "app/site_dialogs.h"
 #include "app/trusted_locations.h"
 #include "app/ui_definition.h"
 #include "store/setting_keys.h"
@@ -105,7 +105,6 @@ bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
   set_links(panel);
   localize_widgets(panel);
   fix_list_sizes(panel);
-  set_accessible_names(panel);
   gtk_widget_show(panel->window);
   return true;
 }

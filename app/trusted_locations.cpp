@@ -4,10 +4,10 @@
 #include <cstdlib>
 #include <string>
 
-#include "app/detached_list.h"
 #include "app/dialogs.h"
+#include "app/list_selection.h"
+#include "app/lists.h"
 #include "app/notebook_pages.h"
-#include "app/site_lists.h"
 #include "settings/setting_data_item.h"
 
 using SASM::SDIVector;
@@ -15,10 +15,7 @@ using SASM::SettingDataItem;
 
 namespace {
 
-constexpr char kRemoveButton[] = "remove_trusted_location_button";
-constexpr char kListStore[] = "trusted_locations";
-constexpr char kTreeView[] = "trusted_locations_treeview";
-constexpr int kLocationColumn = 0;
+constexpr const List& kList = kLists[kLocationList];
 
 SettingDataItem MakeLocation(const char* path) {
   const bool trusted = true;
@@ -50,7 +47,7 @@ void KeepOutOfRecentFiles() {
 void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
                     int title_id, const char* title_fallback) {
   KeepOutOfRecentFiles();
-  GtkWidget* parent = get_widget(panel->builder, "compat_settings_dialog");
+  GtkWidget* parent = get_widget(panel->builder, kList.dialog);
   GtkWidget* chooser = gtk_file_chooser_dialog_new(
       text_or(panel, title_id, title_fallback), GTK_WINDOW(parent), action,
       "gtk-cancel", GTK_RESPONSE_CANCEL, "gtk-open", GTK_RESPONSE_ACCEPT,
@@ -80,11 +77,10 @@ std::string EditableText(const SASM::SimpleString& location) {
 // The row may show an excerpt, or invisible characters escaped.
 void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
                        const char* path, GnomeTCCapplet* panel) {
-  auto* model = GTK_TREE_MODEL(get_list_store(panel->builder, kListStore));
+  auto* model = GTK_TREE_MODEL(get_list_store(panel->builder, kList.store));
   GtkTreeIter row;
   if (!gtk_tree_model_get_iter_from_string(model, &row, path)) return;
-  const SASM::SimpleString location =
-      get_text_field(model, &row, kLocationColumn);
+  const SASM::SimpleString location = get_text_field(model, &row, kNameColumn);
   gtk_entry_set_text(GTK_ENTRY(entry), EditableText(location).c_str());
   gtk_editable_select_region(GTK_EDITABLE(entry), 0, -1);
 }
@@ -128,7 +124,7 @@ guint32 ListIndexOf(GnomeTCCapplet* panel, GtkTreeModel* model,
     return G_MAXUINT32;
   }
   return ListIndexOf(panel, *locations, static_cast<guint32>(row_index),
-                     get_text_field(model, &row, kLocationColumn));
+                     get_text_field(model, &row, kNameColumn));
 }
 
 void collect_selected_row(GtkTreeModel* model, GtkTreePath* path, GtkTreeIter*,
@@ -155,22 +151,11 @@ void prepare_location_editing(GnomeTCCapplet* panel) {
                    "editing-started", G_CALLBACK(EditWholeLocation), panel);
 }
 
-void fill_trusted_locations(GnomeTCCapplet* panel) {
-  set_sensitive(panel, kRemoveButton, false);
-  GtkListStore* store = get_list_store(panel->builder, kListStore);
-  const DetachedList detached(get_tree_view(panel->builder, kTreeView), store);
-  const SDIVector* locations = panel->trusted_paths->getVectorValue();
-  for (unsigned int i = 0; locations && i < locations->count; ++i) {
-    gtk_list_store_insert_with_values(store, nullptr, G_MAXINT, kLocationColumn,
-                                      locations->At(i)->name.c_str(), -1);
-  }
-}
-
 extern "C" {
 
 G_MODULE_EXPORT void on_trusted_locations_treeview_cursor_changed(
     GtkTreeView*, GnomeTCCapplet* panel) {
-  if (!panel->updating) set_sensitive(panel, kRemoveButton, true);
+  if (!panel->updating) set_sensitive(panel, kList.remove_button, true);
 }
 
 G_MODULE_EXPORT void on_add_trusted_location_button_clicked(
@@ -194,7 +179,7 @@ G_MODULE_EXPORT void on_trusted_location_edited(GtkCellRendererText*,
   errno = 0;
   const unsigned long row_index = std::strtoul(path, nullptr, 10);
   if (errno != 0) return;
-  GtkListStore* store = get_list_store(panel->builder, kListStore);
+  GtkListStore* store = get_list_store(panel->builder, kList.store);
   const guint32 index = ListIndexOf(panel, GTK_TREE_MODEL(store), row_index);
   if (index < locations->count) {
     // Unchanged: replaced bytes must not be stored.
@@ -207,7 +192,7 @@ G_MODULE_EXPORT void on_trusted_location_edited(GtkCellRendererText*,
 G_MODULE_EXPORT void on_remove_trusted_location_button_clicked(
     GtkButton*, GnomeTCCapplet* panel) {
   SDIVector* locations = panel->trusted_paths->getVectorValue();
-  for_each_selected(panel, kTreeView, collect_selected_row, panel);
+  for_each_selected(panel, kList.tree_view, collect_selected_row, panel);
   RemoveCollectedRows(panel, locations);
   StoreLocations(panel, locations);
 }

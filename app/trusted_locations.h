@@ -3,9 +3,5 @@
 
 #include "app/gnome_tcc_applet.h"
 
-// Refills the list from the stored locations and makes its Remove button
-// insensitive.
-void fill_trusted_locations(GnomeTCCapplet* panel);
-
 // Lets a row be edited as the location it stands for, not as it is shown.
 void prepare_location_editing(GnomeTCCapplet* panel);

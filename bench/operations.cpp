@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "app/list_contents.h"
 #include "bench/fresh_store.h"
 #include "bench/harness.h"
 #include "bench/panel_window.h"
@@ -83,13 +84,13 @@ void StartWindow(PrivateHome*, std::size_t) {
   char** argv = nullptr;
   g_panel = StartWithoutStore(&argc, &argv);
   OpenStore(g_panel);
-  fill_site_list(g_panel, kCameraAndMicMode);
-  fill_site_list(g_panel, kStorageMode);
+  fill_list(g_panel, kLists[kCameraList]);
+  fill_list(g_panel, kLists[kStorageList]);
 }
 
-template <SitePermissionMode mode>
+template <ListIndex index>
 void Refill(const PrivateHome&, std::size_t times) {
-  for (std::size_t i = 0; i < times; ++i) fill_site_list(g_panel, mode);
+  for (std::size_t i = 0; i < times; ++i) fill_list(g_panel, kLists[index]);
 }
 
 void MakeTree(PrivateHome* home, std::size_t files) {
@@ -116,8 +117,8 @@ constexpr Operation kOperations[] = {
     {"start", 0, NoPreparation, OpenStores},
     {"read", kSites, StartStore, ReadSites},
     {"change", 1, LoadSite, ChangeSite},
-    {"refill", kSites, StartWindow, Refill<kCameraAndMicMode>},
-    {"refill-with-sizes", kSites, StartWindow, Refill<kStorageMode>},
+    {"refill", kSites, StartWindow, Refill<kCameraList>},
+    {"refill-with-sizes", kSites, StartWindow, Refill<kStorageList>},
     {"remove", 1, MakeTree, RemoveMadeTree},
 };
 

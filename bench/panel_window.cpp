@@ -28,7 +28,6 @@ GnomeTCCapplet* StartWithoutStore(int* argc, char*** argv) {
   prepare_lists(panel);
   localize_widgets(panel);
   fix_list_sizes(panel);
-  set_accessible_names(panel);
   gtk_widget_show(panel->window);
   return panel;
 }

@@ -1,7 +1,7 @@
 // The panel in this process, without its main loop.
 #pragma once
 
-#include "app/site_lists.h"
+#include "app/widget_helpers.h"
 
 // Starts the panel up to its shown window, with no store: its document, its
 // texts, its lists.

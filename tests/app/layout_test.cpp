@@ -102,7 +102,7 @@ void LayoutTest::CheckAll() {
     GoToPage(page);
     Check(panel_->window);
   }
-  for (const SitePermission& list : kSitePermissions) {
+  for (const List& list : kSiteLists) {
     Click(list.add_button);
     CheckDialog("new_site_dialog");
     CheckDialog(list.dialog);

@@ -10,7 +10,7 @@ using testing::ElementsAre;
 class LoadTest : public PanelTest {
  protected:
   // As on the screen: draws the rows, and lets the toolkit look at each name.
-  void ShowList(const SitePermission& list) {
+  void ShowList(const List& list) {
     gtk_widget_show(Widget(list.dialog));
     Settle();
     GtkTreeView* view = get_tree_view(panel_->builder, list.tree_view);
@@ -54,14 +54,14 @@ TEST_F(LoadTest, TenThousandSites) {
   }
   home_.AddSites(sites);
   Start();
-  const SitePermission& list = kSitePermissions[kStorageMode];
+  const List& list = kLists[kStorageList];
   ShowList(list);
-  EXPECT_EQ(Column(list.list_store, 0), sites);
+  EXPECT_EQ(Column(list.store, 0), sites);
   gtk_tree_view_column_clicked(
       get_column(panel_->builder, "site_storage_site_column"));
-  ASSERT_EQ(Column(list.list_store, 0)[2], "s10.example");
+  ASSERT_EQ(Column(list.store, 0)[2], "s10.example");
   Select(list.tree_view, {0, 2, 9999});
-  ChooseInList(kStorageMode, kPermissionStateAlwaysAsk);
+  ChooseInList(kStorageList, kPermissionStateAlwaysAsk);
   EXPECT_EQ(home_.Stored("s10.example", "klimit"), "0");
   Select(list.tree_view, {2});
   Click(list.remove_button);
@@ -87,10 +87,10 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
   Start();
   for (const int page : {kPlaybackPage, kPrivacyPage, kStoragePage}) {
     GoToPage(page);
-    for (const SitePermission& list : kSitePermissions) ShowList(list);
+    for (const List& list : kSiteLists) ShowList(list);
   }
   Select("site_storage_treeview", {0, 1, 2, 3, 4, 5});
-  ChooseInList(kStorageMode, kPermissionStateAlwaysDeny);
+  ChooseInList(kStorageList, kPermissionStateAlwaysDeny);
   for (const std::string& site : sites)
     EXPECT_EQ(home_.Stored(site, "klimit"), "-1");
   Select("site_storage_treeview", {0, 1, 3});
@@ -146,7 +146,7 @@ TEST_F(LoadTest, LongestNames) {
   Click("remove_trusted_location_button");
   EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kTrustedPaths), "[]");
 
-  ShowList(kSitePermissions[kStorageMode]);
+  ShowList(kLists[kStorageList]);
   Click("add_site_storage_setting_button");
   gtk_entry_set_text(GTK_ENTRY(Widget("new_site_entry")), longest.c_str());
   Click("new_site_add_button");

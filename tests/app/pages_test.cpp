@@ -39,7 +39,7 @@ TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
   EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Allow"));
   GoToPage(kAdvancedPage);
   Select("site_storage_treeview", {1});
-  ChooseInList(kStorageMode, kPermissionStateAlwaysDeny);
+  ChooseInList(kStorageList, kPermissionStateAlwaysDeny);
   EXPECT_EQ(home_.Stored("b.example", SASM::kStorageLimit), "-1");
   EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Allow"));
   EXPECT_TRUE(IsUsable("remove_site_storage_setting_button"));
@@ -50,7 +50,7 @@ TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
 TEST_F(PagesTest, BlockingPeersOverridesSitesWithoutChangingThem) {
   Start("playback");
   Select("site_p2p_treeview", {1});
-  ChooseInList(kPeerAssistedMode, kPermissionStateAlwaysAllow);
+  ChooseInList(kNetworkList, kPermissionStateAlwaysAllow);
   const struct {
     const char* choice;
     const char* disallowed;

@@ -53,8 +53,8 @@ void PanelTest::Select(const char* tree_view, std::initializer_list<int> rows) {
   }
 }
 
-void PanelTest::ChooseInList(SitePermissionMode mode, PermissionState state) {
-  const SitePermission& list = kSitePermissions[mode];
+void PanelTest::ChooseInList(ListIndex index, PermissionState state) {
+  const List& list = kLists[index];
   GtkTreeView* view = get_tree_view(panel_->builder, list.tree_view);
   GList* rows = gtk_tree_selection_get_selected_rows(
       gtk_tree_view_get_selection(view), nullptr);
@@ -65,7 +65,7 @@ void PanelTest::ChooseInList(SitePermissionMode mode, PermissionState state) {
       GTK_TREE_MODEL(get_list_store(panel_->builder, "permission_settings")),
       &choice, nullptr, state - 1));
   g_signal_emit_by_name(
-      get_object(panel_->builder, list.renderer, GTK_TYPE_CELL_RENDERER),
+      get_renderer(get_column(panel_->builder, PermissionColumn(list).id)),
       "changed", path, &choice);
   g_free(path);
   g_list_free_full(rows, reinterpret_cast<GDestroyNotify>(gtk_tree_path_free));

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "app/gnome_tcc_applet.h"
-#include "app/site_lists.h"
+#include "app/lists.h"
 #include "tests/support/panel_home.h"
 
 // Needs a process for each test: the panel's store is one for a process. Any
@@ -25,7 +25,7 @@ class PanelTest : public ::testing::Test {
   void Choose(const char* toggle_button);
   void Select(const char* tree_view, std::initializer_list<int> rows);
   // As by the combo box of the first selected row.
-  void ChooseInList(SitePermissionMode mode, PermissionState state);
+  void ChooseInList(ListIndex index, PermissionState state);
 
   // The texts of a list store's column, from top to bottom.
   [[nodiscard]] Names Column(const char* list_store, int column);

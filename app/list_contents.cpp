@@ -1,0 +1,204 @@
+#include "app/list_contents.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "app/list_sorting.h"
+#include "app/widget_helpers.h"
+#include "model/storage_setting.h"
+#include "store/setting_keys.h"
+
+using SASM::SettingsDictionary;
+using SASM::SimpleString;
+
+namespace {
+
+struct UsedSpace {
+  char text[StorageSetting::kSpaceTextSize];
+  guint bytes;  // the low 32 bits, by which the column is sorted
+};
+
+// A list that lacks a column leaves its member unset.
+struct Row {
+  const char* name;
+  PermissionState state;
+  UsedSpace used;
+};
+
+// The cells of a row. Texts are borrowed until the row is appended.
+class Cells {
+ public:
+  void SetText(int column, const char* text) {
+    g_value_set_static_string(Add(column, G_TYPE_STRING), text);
+  }
+  void SetInt(int column, gint number) {
+    g_value_set_int(Add(column, G_TYPE_INT), number);
+  }
+  void SetUint(int column, guint number) {
+    g_value_set_uint(Add(column, G_TYPE_UINT), number);
+  }
+  void AppendTo(GtkListStore* store) {
+    constexpr int kAtTheEnd = G_MAXINT;
+    gtk_list_store_insert_with_valuesv(store, nullptr, kAtTheEnd, columns_,
+                                       values_, count_);
+  }
+
+ private:
+  static constexpr int kMost = 6;
+
+  GValue* Add(int column, GType type) {
+    columns_[count_] = column;
+    return g_value_init(&values_[count_++], type);
+  }
+
+  int columns_[kMost];
+  GValue values_[kMost] = {};
+  int count_ = 0;
+};
+
+// Takes the list off its view for as long as it lives: filling it otherwise
+// costs far more than its rows.
+class DetachedList {
+ public:
+  DetachedList(GtkTreeView* view, GtkListStore* store)
+      : view_(view), store_(store) {
+    gtk_tree_view_set_model(view_, nullptr);
+  }
+  ~DetachedList() { gtk_tree_view_set_model(view_, GTK_TREE_MODEL(store_)); }
+  DetachedList(const DetachedList&) = delete;
+  DetachedList& operator=(const DetachedList&) = delete;
+
+ private:
+  GtkTreeView* view_;
+  GtkListStore* store_;
+};
+
+UsedSpace MeasureSpace(const SimpleString& site) {
+  StorageSetting setting(SASM::kStorageLimit, site);
+  UsedSpace used;
+  setting.formatSpaceUsed(used.text, sizeof used.text);
+  used.bytes = static_cast<guint>(static_cast<guint64>(setting.spaceUsed()));
+  return used;
+}
+
+std::vector<Row> ReadNames(const SASM::SDIVector& names) {
+  std::vector<Row> rows(names.count);
+  for (unsigned int i = 0; i < names.count; ++i) {
+    rows[i].name = names.At(i)->name.c_str();
+  }
+  return rows;
+}
+
+std::vector<Row> ReadSites(GnomeTCCapplet* panel, const List& list,
+                           const SASM::SDIVector& sites) {
+  const SettingsDictionary* master = master_settings(panel);
+  const bool are_blocked = IsBlockedEverywhere(*list.permission, master);
+  const bool have_sizes = FindColumn(list, Content::kUsedSpace);
+  std::vector<Row> rows = ReadNames(sites);
+  for (unsigned int i = 0; i < sites.count; ++i) {
+    const SimpleString& site = sites.At(i)->name;
+    // Skips reading the files of sites whose own settings do not count.
+    const SettingsDictionary* settings =
+        are_blocked ? nullptr
+                    : panel->settings->EnsureSettingsAreLoadedForDomain(site);
+    rows[i].state = EffectiveState(*list.permission, master, settings);
+    if (have_sizes) rows[i].used = MeasureSpace(site);
+  }
+  return rows;
+}
+
+std::vector<Row> ReadRows(GnomeTCCapplet* panel, const List& list) {
+  const SASM::SDIVector* names = list.permission
+                                     ? panel->settings->GetDomains()
+                                     : panel->trusted_paths->getVectorValue();
+  if (!names) return {};
+  return list.permission ? ReadSites(panel, list, *names) : ReadNames(*names);
+}
+
+SortKey KeyOf(const Row& row, Content content) {
+  switch (content) {
+    case Content::kSite:
+      return sort_key_of_domain(row.name);
+    case Content::kUsedSpace:
+      return {.number = row.used.bytes};
+    case Content::kPermission:
+      return {.number = static_cast<guint>(row.state)};
+    case Content::kLocation:
+      break;  // sorted by the toolkit
+  }
+  return {};
+}
+
+// As the sort functions would, but with the key of each row made once.
+std::vector<const Row*> Sorted(const std::vector<Row>& rows, Content content,
+                               GtkSortType order) {
+  using Entry = std::pair<SortKey, const Row*>;
+  std::vector<Entry> entries;
+  entries.reserve(rows.size());
+  for (const Row& row : rows) entries.emplace_back(KeyOf(row, content), &row);
+  if (order == GTK_SORT_ASCENDING) {
+    std::ranges::stable_sort(entries, std::ranges::less(), &Entry::first);
+  } else {
+    std::ranges::stable_sort(entries, std::ranges::greater(), &Entry::first);
+  }
+  std::vector<const Row*> sorted;
+  sorted.reserve(rows.size());
+  for (const Entry& entry : entries) sorted.push_back(entry.second);
+  return sorted;
+}
+
+// In the order of the list store.
+std::vector<const Row*> InOrder(const std::vector<Row>& rows, const List& list,
+                                GtkListStore* store) {
+  int sort_column = 0;
+  GtkSortType order = GTK_SORT_ASCENDING;
+  if (gtk_tree_sortable_get_sort_column_id(GTK_TREE_SORTABLE(store),
+                                           &sort_column, &order)) {
+    for (const Column& column : list.columns) {
+      if (column.sort_column == sort_column) {
+        return Sorted(rows, column.content, order);
+      }
+    }
+  }
+  std::vector<const Row*> in_order;
+  in_order.reserve(rows.size());
+  for (const Row& row : rows) in_order.push_back(&row);
+  return in_order;
+}
+
+void SetCells(GnomeTCCapplet* panel, const Column& column, const Row& row,
+              Cells* cells) {
+  switch (column.content) {
+    case Content::kSite:
+    case Content::kLocation:
+      return cells->SetText(column.text_column, row.name);
+    case Content::kUsedSpace:
+      cells->SetText(column.text_column, row.used.text);
+      return cells->SetUint(column.sort_column, row.used.bytes);
+    case Content::kPermission:
+      cells->SetText(column.text_column,
+                     permission_state_text(panel, row.state));
+      cells->SetText(column.icon_column, permission_state_icon(row.state));
+      return cells->SetInt(column.sort_column, row.state);
+  }
+}
+
+}  // namespace
+
+void fill_list(GnomeTCCapplet* panel, const List& list) {
+  set_sensitive(panel, list.remove_button, false);
+  const std::vector<Row> rows = ReadRows(panel, list);
+  GtkListStore* store = get_list_store(panel->builder, list.store);
+  const DetachedList detached(get_tree_view(panel->builder, list.tree_view),
+                              store);
+  gtk_list_store_clear(store);
+  const RowsInOrder in_order(store);
+  for (const Row* row : InOrder(rows, list, store)) {
+    Cells cells;
+    for (const Column& column : list.columns) {
+      SetCells(panel, column, *row, &cells);
+    }
+    cells.AppendTo(store);
+  }
+}

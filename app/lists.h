@@ -1,0 +1,172 @@
+// The lists and their columns, as the UI definition lays them out. Everything
+// that a list or a column of it is, is in its row here.
+#pragma once
+
+#include <iterator>
+#include <span>
+
+#include "model/permissions.h"
+
+// What the cells of a column show, and what their rows are sorted by.
+enum class Content {
+  kSite,        // a domain name; by its components from the last to the first
+  kLocation,    // a path; as the toolkit sorts texts
+  kUsedSpace,   // the size of a site's local storage; by bytes
+  kPermission,  // the state of the list's permission; by the number of the
+                // state
+};
+
+constexpr int kNoColumn = -1;
+
+struct Column {
+  const char* id;
+  Content content;
+  // Id of the title's text.
+  int title_id;
+  const char* fallback;
+  // Columns of the list store: the text that the cells show, what the rows are
+  // sorted by, and the stock id of an icon.
+  int text_column;
+  int sort_column;
+  int icon_column = kNoColumn;
+};
+
+struct List {
+  const char* dialog;
+  // Opens the dialog.
+  const char* page_button;
+  const char* tree_view;
+  const char* store;
+  const char* add_button;
+  const char* remove_button;
+  // What a screen reader calls the list.
+  int accessible_name_id;
+  // The first one shows the names, which are in column 0 of the list store.
+  std::span<const Column> columns;
+  // Null for the list that is not of sites.
+  const Permission* permission = nullptr;
+};
+
+constexpr int kNameColumn = 0;
+
+inline constexpr Column kCameraColumns[] = {
+    {.id = "site_privacy_site_column",
+     .content = Content::kSite,
+     .title_id = 61000,
+     .fallback = "Site",
+     .text_column = kNameColumn,
+     .sort_column = kNameColumn},
+    {.id = "site_privacy_cam_and_mic_column",
+     .content = Content::kPermission,
+     .title_id = 61001,
+     .fallback = "Camera and Mic Access",
+     .text_column = 1,
+     .sort_column = 2,
+     .icon_column = 3},
+};
+
+inline constexpr Column kStorageColumns[] = {
+    {.id = "site_storage_site_column",
+     .content = Content::kSite,
+     .title_id = 61000,
+     .fallback = "Website",
+     .text_column = kNameColumn,
+     .sort_column = kNameColumn},
+    {.id = "site_storage_used_column",
+     .content = Content::kUsedSpace,
+     .title_id = 61004,
+     .fallback = "Used",
+     .text_column = 1,
+     .sort_column = 2},
+    {.id = "site_storage_permission_column",
+     .content = Content::kPermission,
+     .title_id = 61003,
+     .fallback = "Storage Permission",
+     .text_column = 3,
+     .sort_column = 4,
+     .icon_column = 5},
+};
+
+inline constexpr Column kNetworkColumns[] = {
+    {.id = "site_p2p_site_column",
+     .content = Content::kSite,
+     .title_id = 61000,
+     .fallback = "Website",
+     .text_column = kNameColumn,
+     .sort_column = kNameColumn},
+    {.id = "site_p2p_permission_column",
+     .content = Content::kPermission,
+     .title_id = 61002,
+     .fallback = "Permission",
+     .text_column = 1,
+     .sort_column = 2,
+     .icon_column = 3},
+};
+
+inline constexpr Column kLocationColumns[] = {
+    {.id = "trusted_location_column",
+     .content = Content::kLocation,
+     .title_id = 81003,
+     .fallback = "Filesystem location",
+     .text_column = kNameColumn,
+     .sort_column = kNameColumn},
+};
+
+// Indexes of kLists.
+enum ListIndex : int { kCameraList, kStorageList, kNetworkList, kLocationList };
+
+// In the order in which the columns get their titles.
+inline constexpr List kLists[] = {
+    {.dialog = "cam_and_mic_by_site_dialog",
+     .page_button = "site_privacy_button",
+     .tree_view = "site_privacy_treeview",
+     .store = "site_privacy_list",
+     .add_button = "add_site_privacy_setting_button",
+     .remove_button = "remove_site_privacy_setting_button",
+     .accessible_name_id = 61005,
+     .columns = kCameraColumns,
+     .permission = &kPermissions[kCamera]},
+    {.dialog = "storage_by_site_dialog",
+     .page_button = "site_storage_button",
+     .tree_view = "site_storage_treeview",
+     .store = "site_storage_list",
+     .add_button = "add_site_storage_setting_button",
+     .remove_button = "remove_site_storage_setting_button",
+     .accessible_name_id = 61009,
+     .columns = kStorageColumns,
+     .permission = &kPermissions[kStorage]},
+    {.dialog = "p2p_by_site_dialog",
+     .page_button = "site_p2p_button",
+     .tree_view = "site_p2p_treeview",
+     .store = "site_p2p_list",
+     .add_button = "add_site_p2p_setting_button",
+     .remove_button = "remove_site_p2p_setting_button",
+     .accessible_name_id = 61007,
+     .columns = kNetworkColumns,
+     .permission = &kPermissions[kNetwork]},
+    {.dialog = "compat_settings_dialog",
+     .page_button = "compat_settings_button",
+     .tree_view = "trusted_locations_treeview",
+     .store = "trusted_locations",
+     .add_button = "add_trusted_location_button",
+     .remove_button = "remove_trusted_location_button",
+     .accessible_name_id = 81000,
+     .columns = kLocationColumns},
+};
+
+// The lists of sites, by ListIndex as well.
+inline constexpr std::span<const List> kSiteLists =
+    std::span(kLists).first<kLocationList>();
+
+// Null when the list has no such column.
+constexpr const Column* FindColumn(const List& list, Content content) {
+  for (const Column& column : list.columns) {
+    if (column.content == content) return &column;
+  }
+  return nullptr;
+}
+
+// Of a list of sites.
+constexpr const Column& PermissionColumn(const List& list) {
+  return *FindColumn(list, Content::kPermission);
+}
