@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <string>
 
+#include "tests/support/privileges.h"
 #include "tests/support/temporary_home.h"
 
 namespace fs = std::filesystem;
@@ -50,10 +51,6 @@ class PluginVersion : public testing::Test {
  private:
   const std::string path_ = std::getenv("PATH");
 };
-
-std::ptrdiff_t CountDescriptors() {
-  return std::distance(fs::directory_iterator("/proc/self/fd"), {});
-}
 
 // And a candidate that does not load hides nothing beyond its directory.
 TEST_F(PluginVersion, TellsWhatEachKindOfLibraryAnswers) {

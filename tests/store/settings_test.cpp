@@ -186,7 +186,8 @@ TEST_F(MasterSettings, GoWithTheFirstLocalStorageInNaturalOrder) {
 }
 
 TEST_F(MasterSettings, LiveInMemoryWithoutAHome) {
-  const NoHome none;
+  setenv("HOME", "", 1);
+  home_in_password_database = "";
   testing::internal::CaptureStderr();
   LinuxFileManager homeless;
   SASM::SettingsManager manager(&homeless);
@@ -199,6 +200,7 @@ TEST_F(MasterSettings, LiveInMemoryWithoutAHome) {
   EXPECT_TRUE(manager.RemoveAllSettingsAndOrLocalStorageForTimeRange(
       true, true, 0, 1UL << 40));
   EXPECT_TRUE(manager.RemoveAssetCache());
+  home_in_password_database = nullptr;
   EXPECT_THAT(testing::internal::GetCapturedStderr(),
               testing::HasSubstr("There is no home directory for \"~/"));
   EXPECT_THAT(home_.List(), IsEmpty());

@@ -1,9 +1,14 @@
 #include "tests/support/call_hooks.h"
 
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdarg>
 #include <filesystem>
 
@@ -11,45 +16,187 @@ std::function<void(const std::string& directory, const std::string& name)>
     before_unlink;
 std::function<void()> instead_of_waiting;
 int openat_calls = 0;
+const char* home_in_password_database = nullptr;
 
-// These are found before those of the C library.
-extern "C" {
+namespace {
 
-int usleep(useconds_t microseconds) {
-  using Function = int(useconds_t);
-  static auto* const real =
-      reinterpret_cast<Function*>(dlsym(RTLD_NEXT, "usleep"));
-  if (!instead_of_waiting) return real(microseconds);
-  instead_of_waiting();
-  return 0;
+struct State {
+  bool armed = false;
+  faults::Fault fault = {};
+  int calls_left = 0;
+  bool met = false;
+  bool is_full = false;  // the disk, until a file is removed
+};
+State state;
+
+void MeetFault() {
+  state.met = true;
+  state.is_full = state.fault.effect == faults::Effect::kDiskFull;
+  if (state.fault.effect == faults::Effect::kKill) _exit(faults::kKilled);
 }
 
+// The calls that fail once the fault has been met.
+unsigned int LaterFailures() {
+  using faults::Effect;
+  if (state.fault.effect == Effect::kFailOnwards) return state.fault.calls;
+  return state.is_full ? faults::kWrite | faults::kMkdir | faults::kCreate : 0U;
+}
+
+// True when the call must fail; errno is then set.
+bool Fails(unsigned int call) {
+  if (!state.armed) return false;
+  if (call & faults::kUnlink) state.is_full = false;
+  if (state.met) {
+    if (!(call & LaterFailures())) return false;
+  } else {
+    if (!(call & state.fault.calls) || state.calls_left-- > 0) return false;
+    MeetFault();
+  }
+  errno = state.fault.error;
+  return true;
+}
+
+// The C library's function of that name.
+template <typename Function>
+Function* Next(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+}  // namespace
+
+namespace faults {
+
+void Arm(const Fault& fault, int n) { state = {true, fault, n}; }
+
+bool Disarm() {
+  state.armed = false;
+  return state.met;
+}
+
+}  // namespace faults
+
+// A function of the C library that fails with `failure` when it must.
+#define CAN_FAIL(calls, failure, result, name, parameters, arguments) \
+  result name parameters {                                            \
+    static auto* const next = Next<result parameters>(#name);         \
+    return Fails(calls) ? failure : next arguments;                   \
+  }
+
+extern "C" {
+
+#ifndef __SANITIZE_ADDRESS__
+// For operator new and for what the C library allocates itself. dlsym cannot
+// find the C library's own, since it allocates itself.
+void* __libc_malloc(std::size_t);
+void* __libc_calloc(std::size_t, std::size_t);
+void* __libc_realloc(void*, std::size_t);
+#pragma GCC visibility push(default)
+void* malloc(std::size_t size) {
+  return Fails(faults::kAllocate) ? nullptr : __libc_malloc(size);
+}
+void* calloc(std::size_t count, std::size_t size) {
+  return Fails(faults::kAllocate) ? nullptr : __libc_calloc(count, size);
+}
+void* realloc(void* memory, std::size_t size) {
+  return Fails(faults::kAllocate) ? nullptr : __libc_realloc(memory, size);
+}
+#pragma GCC visibility pop
+#endif
+
 int openat(int directory, const char* path, int flags, ...) {
-  using Function = int(int, const char*, int, ...);
-  static auto* const real =
-      reinterpret_cast<Function*>(dlsym(RTLD_NEXT, "openat"));
   va_list arguments;
   va_start(arguments, flags);
   const mode_t mode = (flags & O_CREAT) ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
+  static auto* next = Next<int(int, const char*, int, ...)>("openat");
+  const bool creates = flags & (O_CREAT | O_TRUNC);
   ++openat_calls;
-  return real(directory, path, flags, mode);
+  const auto call = faults::kOpen | (creates ? faults::kCreate : 0U);
+  return Fails(call) ? -1 : next(directory, path, flags, mode);
 }
-
-// What it is with _FORTIFY_SOURCE and flags the compiler does not know.
+// The same under _FORTIFY_SOURCE, when the flags are not constant.
 int __openat_2(int directory, const char* path, int flags) {
   return openat(directory, path, flags);
 }
 
+// Of openat2, which the C library has no function for, and of other calls with
+// up to four arguments.
+long syscall(long number, ...) {
+  va_list arguments;
+  va_start(arguments, number);
+  const long first = va_arg(arguments, long);
+  const long second = va_arg(arguments, long);
+  const long third = va_arg(arguments, long);
+  const long fourth = va_arg(arguments, long);
+  va_end(arguments);
+  static auto* next = Next<long(long, ...)>("syscall");
+  const bool fails =
+      number == SYS_openat2 && Fails(faults::kOpen | faults::kOpenat2);
+  return fails ? -1 : next(number, first, second, third, fourth);
+}
+
+ssize_t write(int file, const void* bytes, std::size_t size) {
+  static auto* next = Next<ssize_t(int, const void*, std::size_t)>("write");
+  const bool is_later = state.met;
+  if (!Fails(faults::kWrite)) return next(file, bytes, size);
+  if (is_later || state.fault.effect < faults::Effect::kShortWrite) return -1;
+  const ssize_t written = next(file, bytes, (size + 1) / 2);
+  if (state.fault.effect == faults::Effect::kKillHalfway)
+    _exit(faults::kKilled);
+  return written;
+}
+
+// On Linux the descriptor is closed even when the call fails.
+int close(int file) {
+  static auto* next = Next<int(int)>("close");
+  const int result = next(file);
+  return Fails(faults::kClose) ? -1 : result;
+}
+
 int unlinkat(int directory, const char* name, int flags) {
-  using Function = int(int, const char*, int);
-  static auto* const real =
-      reinterpret_cast<Function*>(dlsym(RTLD_NEXT, "unlinkat"));
+  static auto* next = Next<int(int, const char*, int)>("unlinkat");
+  const auto call = flags & AT_REMOVEDIR ? faults::kRmdir : faults::kUnlink;
+  if (Fails(call)) return -1;
   if (before_unlink) {
     const auto entry = "/proc/self/fd/" + std::to_string(directory);
     before_unlink(std::filesystem::read_symlink(entry), name);
   }
-  return real(directory, name, flags);
+  return next(directory, name, flags);
+}
+
+CAN_FAIL(faults::kRead, -1, ssize_t, read,
+         (int file, void* bytes, std::size_t size), (file, bytes, size))
+CAN_FAIL(faults::kMkdir, -1, int, mkdirat,
+         (int directory, const char* path, mode_t mode),
+         (directory, path, mode))
+CAN_FAIL(faults::kOpendir, nullptr, DIR*, fdopendir, (int directory),
+         (directory))
+CAN_FAIL(faults::kReaddir, nullptr, dirent*, readdir, (DIR * directory),
+         (directory))
+CAN_FAIL(faults::kReaddir, -1, ssize_t, getdents64,
+         (int directory, void* buffer, std::size_t size),
+         (directory, buffer, size))
+CAN_FAIL(faults::kStat, -1, int, stat, (const char* path, struct stat* info),
+         (path, info))
+CAN_FAIL(faults::kStat, -1, int, fstat, (int file, struct stat* info),
+         (file, info))
+CAN_FAIL(faults::kStat, -1, int, fstatat,
+         (int directory, const char* path, struct stat* info, int flags),
+         (directory, path, info, flags))
+
+int usleep(useconds_t microseconds) {
+  static auto* const next = Next<int(useconds_t)>("usleep");
+  if (!instead_of_waiting) return next(microseconds);
+  instead_of_waiting();
+  return 0;
+}
+
+passwd* getpwuid(uid_t uid) {
+  static auto* const next = Next<passwd*(uid_t)>("getpwuid");
+  static passwd user = {};
+  if (!home_in_password_database) return next(uid);
+  user.pw_dir = const_cast<char*>(home_in_password_database);
+  return *home_in_password_database ? &user : nullptr;
 }
 
 }  // extern "C"

@@ -1,12 +1,12 @@
 #include "tests/support/privileges.h"
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
-#include <pwd.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
+#include <iterator>
 
 #include "tests/support/program_run.h"
 
@@ -14,17 +14,7 @@ namespace {
 
 constexpr uid_t kNobody = 65534;
 
-bool database_is_empty = false;
-
 }  // namespace
-
-// Stands before that of the C library.
-extern "C" passwd* getpwuid(uid_t uid) {
-  using Function = passwd*(uid_t);
-  static auto* const real =
-      reinterpret_cast<Function*>(dlsym(RTLD_NEXT, "getpwuid"));
-  return database_is_empty ? nullptr : real(uid);
-}
 
 OrdinaryUser::OrdinaryUser(const TemporaryHome& home)
     : was_root_(geteuid() == 0) {
@@ -50,9 +40,7 @@ LoweredLimit::~LoweredLimit() {
   EXPECT_EQ(setrlimit(static_cast<__rlimit_resource>(resource_), &former_), 0);
 }
 
-NoHome::NoHome() {
-  setenv("HOME", "", 1);
-  database_is_empty = true;
+std::ptrdiff_t CountDescriptors() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                       {});
 }
-
-NoHome::~NoHome() { database_is_empty = false; }

@@ -1,7 +1,9 @@
-// What the user who runs the tests may do, for a while.
+// What the process of a test may do and holds.
 #pragma once
 
 #include <sys/resource.h>
+
+#include <cstddef>
 
 #include "tests/support/temporary_home.h"
 
@@ -32,12 +34,5 @@ class LoweredLimit {
   rlimit former_;
 };
 
-// Makes the user one without a home: HOME is empty and the password database
-// knows nobody. HOME is put back by the TemporaryHome.
-class NoHome {
- public:
-  NoHome();
-  ~NoHome();
-  NoHome(const NoHome&) = delete;
-  NoHome& operator=(const NoHome&) = delete;
-};
+// The number of descriptors that the process has open.
+std::ptrdiff_t CountDescriptors();

@@ -13,7 +13,7 @@
 #include "tests/support/settings_image.h"
 
 class StoreTest : public testing::Test {
- protected:
+ public:
   // Starts the panel's store, once more when it was started.
   void Start() {
     manager_.reset();
