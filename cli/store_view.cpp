@@ -42,7 +42,7 @@ const SDIVector* StoreView::ListedSites() const {
 }
 
 bool StoreView::HasSettings(const SimpleString& site) const {
-  return SASM::HasSettingsFile(site, layout_, files_);
+  return SASM::HasSettingsFile(site, layout_);
 }
 
 SiteSettings StoreView::Read(const SimpleString& site) const {

@@ -4,13 +4,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <climits>
 #include <utility>
 
 namespace {
 
 // So many waiting directories are kept open; of more only the path is kept.
-constexpr std::size_t kMostOpenRoots = 8;
+constexpr std::size_t kMostOpenRoots = 1;
 
 bool IsLink(int directory, const char* name, unsigned char type) {
   if (type != DT_UNKNOWN) return type == DT_LNK;
@@ -53,6 +54,9 @@ DirectorySizes::Directory* DirectorySizes::Read(const char* path,
 void DirectorySizes::ReadLater(int directory, const char* name,
                                const FileIdentity& identity) {
   Root root = {OpenPlace(directory, name), {}, identity};
+  while (!root.place.IsOpen() && errno == EMFILE && CloseFarthest()) {
+    root.place = OpenPlace(directory, name);
+  }
   if (!root.place.IsOpen()) return;
   if (open_roots_ < kMostOpenRoots) {
     ++open_roots_;

@@ -27,9 +27,11 @@ class DirectorySizes : private DirectoryWalk {
 
     // For TreeSize.
     std::uint64_t content_bytes = 0;
+    std::uint64_t top_bytes = 0;  // where a measurement began with it
     unsigned int measurement = 0;
     bool is_final = false;
     bool is_open = false;
+    bool has_top_bytes = false;
   };
 
   DirectorySizes();

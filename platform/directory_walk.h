@@ -57,6 +57,9 @@ class DirectoryWalk {
   // below it is left out.
   virtual void LoseDirectory();
 
+  // Gives up a descriptor of the walk's own; false when none is to spare.
+  [[nodiscard]] bool CloseFarthest();
+
   // The path of an entry of the directory that is being read, from the `name`
   // that the walk began with.
   [[nodiscard]] std::string PathOf(const char* name) const;
@@ -69,7 +72,6 @@ class DirectoryWalk {
   void ReadTop();
   void VisitBatch(std::size_t size);
   void EnterNextSubdirectory();
-  [[nodiscard]] bool CloseFarthest();
   [[nodiscard]] bool OpenParentOfTop();
   [[nodiscard]] int ParentOfTop() const;
   // Gives up descriptors of the walk's own when the process has none left.

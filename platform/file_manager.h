@@ -52,8 +52,9 @@ class FileManager {
       const = 0;
 
   // The names in a directory except "." and "..", in natural order. Empty when
-  // it cannot be opened: errno then says why. Links on the way to it, and in
-  // its place, count as for RemoveFileAtPath. The caller owns the list.
+  // it cannot be opened: errno then says why, and is 0 after a listing. Links
+  // on the way to it, and in its place, count as for RemoveFileAtPath. The
+  // caller owns the list.
   [[nodiscard]] virtual SortableStringVector* CreateNewListOfDirectoryContents(
       const SimpleString& path) const = 0;
 };

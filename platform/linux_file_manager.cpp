@@ -113,7 +113,7 @@ bool LinuxFileManager::CreateDirectoryAtPath(const SimpleString& path,
 }
 
 bool LinuxFileManager::MakeDirectory(std::string_view path) const {
-  const SplitPath split(path);
+  const SplitPath split(WithoutFinalSlashes(path));
   FileDescriptor holder = OpenTrusted(split.directory);
   if (!holder.IsOpen() && errno == ENOENT && MakeDirectory(split.directory)) {
     holder = OpenTrusted(split.directory);
@@ -135,7 +135,10 @@ bool LinuxFileManager::RemoveFilesRecursively(const SimpleString& path,
                                               FilePredicate* predicate) {
   if (path.IsEmpty()) return true;
   const SplitPath split(WithoutFinalSlashes(path.c_str()));
-  const FileDescriptor holder = OpenTrusted(split.directory);
+  errno = EINVAL;
+  const FileDescriptor holder = IsSelfOrParent(split.name)
+                                    ? FileDescriptor()
+                                    : OpenTrusted(split.directory);
   if (holder.IsOpen()) {
     return TreeRemoval(predicate).Remove(holder.Get(), split.name.c_str(),
                                          std::string(split.directory));
@@ -164,6 +167,7 @@ SortableStringVector* LinuxFileManager::CreateNewListOfDirectoryContents(
   const DirectoryStream directory =
       place.IsOpen() ? OpenDirectoryStream(place.Get(), ".") : nullptr;
   if (!directory) return names.release();
+  errno = 0;  // a first try of the opening may have failed
   while (const dirent* entry = readdir(directory.get())) {
     if (IsSelfOrParent(entry->d_name)) continue;
     const SimpleString name = entry->d_name;

@@ -46,6 +46,7 @@ bool IsNoAnswer(int error) {
 
 FileDescriptor OpenBelow(const char* trusted, const char* way) {
   FileDescriptor top = OpenPlace(AT_FDCWD, trusted);
+  while (*way == '/') ++way;
   if (!top.IsOpen() || !*way) return top;
   FileDescriptor reached = OpenInOneCall(top.Get(), way);
   if (reached.IsOpen() || !IsNoAnswer(errno)) return reached;

@@ -18,18 +18,20 @@ std::uint64_t TreeSize::Measure(const char* path) {
 }
 
 std::uint64_t TreeSize::ContentOf(Directory* top) {
+  if (top->is_final) return top->content_bytes;
+  if (top->has_top_bytes) return top->top_bytes;
   ++measurement_;
-  std::uint64_t bytes = top->content_bytes;
-  if (!top->is_final) Enter(top, false);
+  Enter(top, false);
   while (!steps_.empty()) {
     const Step& step = steps_.back();
     if (step.next < step.directory->subdirectories.size()) {
       EnterNextSubdirectory();
     } else {
-      bytes = LeaveDirectory();
+      top->top_bytes = LeaveDirectory();
     }
   }
-  return bytes;
+  top->has_top_bytes = true;
+  return top->top_bytes;
 }
 
 void TreeSize::Enter(Directory* directory, bool is_link) {

@@ -20,6 +20,9 @@ class SettingsManager::ListChanges {
   // An element of this name, the last one, is to be removed from the list.
   void NoteRemoved(const SimpleString& site);
 
+  // The list has been replaced by another.
+  void Forget();
+
   [[nodiscard]] bool IsEmpty() const { return !is_changed_; }
   void RemoveFrom(SDIVector* domains);
 

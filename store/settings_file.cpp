@@ -53,7 +53,7 @@ bool ReadBytes(int file, unsigned char* bytes, std::size_t* size) {
   return true;
 }
 
-// False with errno 0, after a line that says so, for a file that has become
+// False with ESTALE, after a line that says so, for a file that has become
 // shorter meanwhile.
 bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
   if (!file.IsOpen() || !SizeOfRegularFile(file.Get(), &image->size)) {
@@ -67,7 +67,7 @@ bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
       "SMSettingsManager: Pathological error when reading master "
       "settings.sol file.\n",
       stderr);
-  errno = 0;
+  errno = ESTALE;
   return false;
 }
 
@@ -122,9 +122,10 @@ bool CreateFile(int directory, const char* name,
 }  // namespace
 
 bool LeavesContentUnknown(int error) {
-  constexpr int kNoFile[] = {0,     ENOENT, ENOTDIR,      EACCES,
-                             EPERM, ELOOP,  ENAMETOOLONG, ENXIO /* socket */};
-  return std::ranges::count(kNoFile, error) == 0;
+  constexpr int kSaysWhatIsThere[] = {
+      0,     ENOENT, ENOTDIR,      EACCES,
+      EPERM, ELOOP,  ENAMETOOLONG, ENXIO /* socket */};
+  return std::ranges::count(kSaysWhatIsThere, error) == 0;
 }
 
 bool ReadFileImage(const SimpleString& path, FileImage* image) {
@@ -132,13 +133,19 @@ bool ReadFileImage(const SimpleString& path, FileImage* image) {
     const bool is_read = ReadOnce(path.c_str(), image);
     const int error = errno;
     const bool may_be_rewritten =
-        is_read ? !IsComplete(*image) : error == ENOENT;
+        is_read ? !IsComplete(*image) : error == ENOENT || error == ESTALE;
     if (!may_be_rewritten || looks_left == 0 ||
         !WasJustChanged(DirectoryOf(path)) || !WaitForWriter()) {
       errno = error;
       return is_read;
     }
   }
+}
+
+bool MayHoldSettings(const SimpleString& path) {
+  struct stat info;
+  if (stat(path.c_str(), &info) == 0) return info.st_size != 0;
+  return LeavesContentUnknown(errno);
 }
 
 bool WasJustChanged(const SimpleString& path) {

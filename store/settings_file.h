@@ -26,7 +26,8 @@ inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 // Reads the file for reading only, without waiting for the writer of a pipe.
 // A file that is missing, empty or cut off in a directory that was changed
 // within the last second may be in the middle of being written by the plug-in:
-// it is looked at again up to three times, 5 ms apart.
+// it is looked at again up to three times, 5 ms apart, as long as WaitForWriter
+// permits.
 //
 // False when the file cannot be opened, cannot be read whole, is no regular
 // file or is larger than kLargestSettingsFile. errno then says why, and is 0
@@ -38,6 +39,10 @@ inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 // many open files. False for one that says that there is no file, or none that
 // the user may read, and for 0.
 [[nodiscard]] bool LeavesContentUnknown(int error);
+
+// False when there is no file at `path`, links followed, or an empty one. True
+// also when that could not be found out.
+[[nodiscard]] bool MayHoldSettings(const SimpleString& path);
 
 // Whether the directory at `path` was changed within the last second, so that
 // what is missing in it may be there soon.

@@ -20,13 +20,13 @@ namespace {
 // Creates the directory itself, as the last name of a directory chain.
 constexpr char kThisDirectory[] = ".";
 
-// Every character outside ASCII as "\xNN": a path holds names that somebody
-// else has chosen.
+// A backslash and everything that is not printable ASCII as "\xNN": a path
+// holds names that somebody else has chosen.
 std::string Printable(const char* path) {
   std::string text;
   for (; *path; ++path) {
     char escaped[5] = {*path};
-    if (*path < ' ' || *path > '~') {
+    if (*path < ' ' || *path > '~' || *path == '\\') {
       std::snprintf(
           escaped, sizeof escaped, "\\x%02X",
           static_cast<unsigned int>(static_cast<unsigned char>(*path)));
@@ -144,9 +144,11 @@ SettingsDictionary* SettingsManager::GetNewSettingsDataFromFile(
     const SimpleString& path, SimpleString** name) {
   FileImage image;
   if (!ReadFileImage(path, &image)) return nullptr;
-  errno = 0;
-  return SMImplementation::SettingsReader(image.bytes.get(), image.size)
-      .GetNewSettingsData(name);
+  SettingsDictionary* dictionary =
+      SMImplementation::SettingsReader(image.bytes.get(), image.size)
+          .GetNewSettingsData(name);
+  errno = 0;  // a message about the file may not have reached anybody
+  return dictionary;
 }
 
 bool SettingsManager::SynchronizeSettingsForDomain(const SimpleString& domain) {
@@ -233,6 +235,7 @@ bool SettingsManager::LoadMasterSettings() {
     StandIn(MasterDomain());
     return false;
   }
+  if (mListChanges) mListChanges->Forget();
   const bool is_new = !read;
   SetDictionary(MasterDomain(), is_new ? std::make_unique<SettingsDictionary>()
                                        : std::move(read));

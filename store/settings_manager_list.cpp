@@ -46,6 +46,11 @@ void SettingsManager::ListChanges::NoteRemoved(const SimpleString& site) {
   if (names_) EraseOne(site.c_str(), &*names_);
 }
 
+void SettingsManager::ListChanges::Forget() {
+  names_.reset();
+  removed_.clear();
+}
+
 void SettingsManager::ListChanges::RemoveFrom(SDIVector* domains) {
   domains->removeElementsIf([this](const void* element) {
     const auto* domain = static_cast<const SettingDataItem*>(element);
@@ -73,6 +78,7 @@ SDIVector* SettingsManager::StoredDomains() const {
 }
 
 bool SettingsManager::StoreEmptyDomains() {
+  if (mListChanges) mListChanges->Forget();
   const SDIVector empty;
   SettingDataItem item(kDomains, kSettingsDataTypeArray, &empty);
   return SetSetting(&item, kDomains, MasterDomain());
@@ -92,7 +98,7 @@ void SettingsManager::VerifyDomainsList() {
     return static_cast<const SettingDataItem*>(element)->name;
   };
   const auto has_no_file = [&](const void* element) {
-    return !HasSettingsFile(name_of(element), mLayout, *mFileManager);
+    return !HasSettingsFile(name_of(element), mLayout);
   };
   const auto may_be_rewritten = [&](const void* element) {
     return WasJustChanged(mLayout.DirectoryOf(name_of(element)));
@@ -121,11 +127,10 @@ bool SettingsManager::IsListed(const SimpleString& site) {
 
 bool SettingsManager::AddDomainWithDefaultSettings(const SimpleString& domain) {
   if (!IsSiteName(domain)) return false;
+  // Before the look at the list, which may be a stand-in so far.
+  if (!DictionaryToChange(MasterDomain())) return false;
   if (IsListed(domain)) return true;
-  if (!DictionaryToChange(MasterDomain()) ||
-      !WriteOrUpdateSettingsForDomain(domain)) {
-    return false;
-  }
+  if (!WriteOrUpdateSettingsForDomain(domain)) return false;
   const bool listed = true;  // the value is never read
   const SettingDataItem element(domain, kSettingsDataTypeBool, &listed);
   GetDomains()->addElement(&element);
@@ -139,7 +144,10 @@ bool SettingsManager::StoreDomains() {
 }
 
 void SettingsManager::Unlist(const SimpleString& site) {
-  if (mListChanges) return mListChanges->NoteRemoved(site);
+  if (mListChanges) {
+    if (IsListed(site)) mListChanges->NoteRemoved(site);
+    return;
+  }
   SDIVector* domains = GetDomains();
   for (unsigned int i = domains->count; i-- > 0;) {
     if (!(domains->At(i)->name == site)) continue;

@@ -359,6 +359,7 @@ bool Faults::Try(const Operation& operation, const Fault& fault, int n,
   const bool is_done = result && operation.reports;
   const bool is_overcome = fault.effect == Effect::kShortWrite ||
                            fault.error == EINTR || fault.error == ENOSYS;
+  EXPECT_TRUE(result || !is_overcome);
   if (is_overcome || (is_done && (fault.calls & faults::kChangesDisk))) {
     EXPECT_EQ(after, complete.disk);
   }

@@ -117,10 +117,12 @@ TEST_F(StoreRemoval, OfManySitesWritesTheListOnce) {
     EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("e"));
     EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("d")) << "once more";
     EXPECT_TRUE(manager_->IsListed("d") && manager_->IsListed("e"));
+    EXPECT_TRUE(manager_->RemoveDomainInformation("new", true, true));
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("new"));
     EXPECT_TRUE(inner.Finish());
     EXPECT_EQ(Master(), before.at(TemporaryHome::MasterFile()));
     EXPECT_TRUE(outer.Finish());
-    EXPECT_THAT(ListedOnDisk(), ElementsAre("a", "b", "c", "d", "e"));
+    EXPECT_THAT(ListedOnDisk(), ElementsAre("a", "b", "c", "d", "e", "new"));
     home_.Write(TemporaryHome::MasterFile(), "untouched");
   }
   EXPECT_EQ(Master(), "untouched");
