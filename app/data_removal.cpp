@@ -1,4 +1,4 @@
-// Deleting all site data, and the licence files.
+// Deletes all site data and the licence files.
 #include "app/dialogs.h"
 #include "app/notebook_pages.h"
 #include "platform/drm_license_manager.h"

@@ -6,7 +6,7 @@
 
 namespace {
 
-// How much narrower than its first allocation a label may later become.
+// A label may later become this much narrower than its first allocation.
 constexpr int kWrappedLabelSlack = 10;  // pixels
 
 }  // namespace
@@ -28,8 +28,8 @@ GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
 
 bool run_dialog(GnomeTCCapplet* panel, const char* dialog_id) {
   GtkWidget* dialog = get_widget(panel->builder, dialog_id);
-  // A dialog keeps its focus when it is hidden: where it was answered with the
-  // button that destroys, Enter would do so again.
+  // A hidden dialog keeps its focus. Next time, Enter would press the button
+  // that was pressed last, which may be the one that deletes.
   gtk_window_set_focus(GTK_WINDOW(dialog),
                        gtk_window_get_default_widget(GTK_WINDOW(dialog)));
   const int response = gtk_dialog_run(GTK_DIALOG(dialog));

@@ -1,5 +1,5 @@
-// The permissions of all sites: the radio buttons of the pages, and the
-// buttons that lead to the permissions by site.
+// The radio buttons on the pages, which set a permission for all sites, and
+// the buttons that open dialogs.
 #include "app/dialogs.h"
 #include "app/lists.h"
 #include "app/notebook_pages.h"
@@ -14,12 +14,12 @@ void SetForAllSites(GnomeTCCapplet* panel, PermissionKind permission,
   update_notebook_page(panel, kCurrentPage);
 }
 
-// The signal comes as well when the button is switched off by another.
+// The signal also comes when another button switches this one off.
 bool IsChosenByUser(GtkToggleButton* button, GnomeTCCapplet* panel) {
   return !panel->updating && gtk_toggle_button_get_active(button);
 }
 
-// Of a button that blocks all sites.
+// The state chosen by a button that blocks all sites.
 PermissionState StateOfSwitch(GtkToggleButton* button) {
   return gtk_toggle_button_get_active(button) ? kPermissionStateAlwaysDeny
                                               : kPermissionStateAlwaysAsk;
@@ -88,7 +88,7 @@ G_MODULE_EXPORT void on_compat_settings_button_clicked(GtkButton*,
   ShowDialog(panel, kLists[kLocationList]);
 }
 
-// There is no place to say that the page could not be opened.
+// Ignores failure: there is nowhere to report it.
 G_MODULE_EXPORT void on_check_now_button_clicked(GtkButton*,
                                                  GnomeTCCapplet* panel) {
   const char* address = text_or(panel, 13009, nullptr);

@@ -13,26 +13,26 @@ struct SelectedRow {
 };
 
 // The one record that every UI routine and every signal handler receives.
-// Allocated zero-filled at start and kept, with all it points to, until the
-// process ends. Only the GTK thread touches it.
+// Allocated zero-filled at the start; it and everything it points to live until
+// the process ends. Only the GTK thread uses it.
 typedef struct _GnomeTCCapplet {  // NOLINT(bugprone-reserved-identifier)
   // Every object of the UI definition, by id.
   GtkBuilder* builder;
   // The main window.
   GtkWidget* window;
-  // Every text comes from here.
+  // The source of all texts.
   LocalizedStringManager* strings;
   // True while update_notebook_page sets controls; their handlers then do
   // nothing.
   bool updating;
-  // Two settings of the master domain.
+  // Settings of the master domain.
   SettingBase* p2p_uplink;
   SettingBase* trusted_paths;
   // SettingBase::mSettingsManager.
   SASM::SettingsManager* settings;
-  // Empty but for the time of one removal.
+  // Empty except during a removal.
   SelectedRow* selected_rows;
-  // The list for which the new-site dialog was opened last: a ListIndex.
+  // A ListIndex: the list for which the new-site dialog was last opened.
   gint32 new_site_mode;
 } GnomeTCCapplet;
 

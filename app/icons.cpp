@@ -24,7 +24,7 @@ constexpr const guint8* kWindowIcons[] = {
     application_48_pixdata,
 };
 
-// The caller owns the picture; its pixels are the program's own.
+// The caller owns the picture. Its pixels are constants of the program.
 GdkPixbuf* NewPicture(const guint8* pixdata) {
   constexpr int kLengthIsInHeader = -1;
   G_GNUC_BEGIN_IGNORE_DEPRECATIONS

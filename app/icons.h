@@ -1,9 +1,9 @@
-// The pictures that the program carries.
+// The pictures built into the program.
 #pragma once
 
-// Registers the permission icons as stock icons, by the names that the UI
+// Registers the permission icons as stock icons under the names that the UI
 // definition and the lists use.
 void register_permission_icons();
 
-// Gives every window of the program its icons, by default.
+// Sets the default icons of all windows.
 void set_window_icons();

@@ -19,7 +19,7 @@ struct UsedSpace {
   guint bytes;  // the low 32 bits, by which the column is sorted
 };
 
-// A list that lacks a column leaves its member unset.
+// Members without a column in the list stay unset.
 struct Row {
   const char* name;
   PermissionState state;
@@ -57,8 +57,8 @@ class Cells {
   int count_ = 0;
 };
 
-// Takes the list off its view for as long as it lives: filling it otherwise
-// costs far more than its rows.
+// Detaches the list from its view for as long as it lives: the view would react
+// to each new row, which costs far more than the row itself.
 class DetachedList {
  public:
   DetachedList(GtkTreeView* view, GtkListStore* store)
@@ -130,7 +130,7 @@ SortKey KeyOf(const Row& row, Content content) {
   return {};
 }
 
-// As the sort functions would, but with the key of each row made once.
+// Sorts as the sort functions do, but makes the key of each row only once.
 std::vector<const Row*> Sorted(const std::vector<Row>& rows, Content content,
                                GtkSortType order) {
   using Entry = std::pair<SortKey, const Row*>;
@@ -148,7 +148,7 @@ std::vector<const Row*> Sorted(const std::vector<Row>& rows, Content content,
   return sorted;
 }
 
-// In the order of the list store.
+// The rows in the order in which the list store is sorted, if it is.
 std::vector<const Row*> InOrder(const std::vector<Row>& rows, const List& list,
                                 GtkListStore* store) {
   int sort_column = 0;

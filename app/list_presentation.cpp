@@ -17,7 +17,7 @@ gboolean RemoveOnDelete(GtkWidget*, GdkEventKey* event, gpointer button) {
   return TRUE;
 }
 
-// Not of subclasses, whose selection is their own affair.
+// Skips subclasses, which manage their selection themselves.
 void AllowSeveralRows(GtkBuilder* builder) {
   GSList* objects = gtk_builder_get_objects(builder);
   for (GSList* node = objects; node; node = node->next) {

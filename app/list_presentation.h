@@ -1,9 +1,9 @@
-// What every list does beyond what the UI definition can say.
+// Properties of lists that the UI definition cannot express.
 #pragma once
 
 #include "app/gnome_tcc_applet.h"
 
-// Several rows can be selected; names are shown as name_cells.h says; Delete
-// does what the list's Remove button does; a click on a permission keeps the
-// selection.
+// Allows several rows to be selected, shows names as name_cells.h says, lets
+// the Delete key press the Remove button, and lets a click on a permission keep
+// the selection.
 void prepare_lists(GnomeTCCapplet* panel);

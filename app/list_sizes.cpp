@@ -10,10 +10,10 @@
 
 namespace {
 
-// The longest text of each unit of size.
+// Sizes in bytes that give the longest text in each unit.
 constexpr double kLongSizes[] = {0, 1023, 1048064, 1073741823, 1099511627775};
 
-// Texts as wide as any that the column will show.
+// The widest texts that the column will show.
 std::vector<std::string> WidestTexts(GnomeTCCapplet* panel, Content content) {
   std::vector<std::string> texts;
   switch (content) {
@@ -29,14 +29,14 @@ std::vector<std::string> WidestTexts(GnomeTCCapplet* panel, Content content) {
       break;
     case Content::kSite:
     case Content::kLocation:
-      texts.emplace_back();  // takes the renderer's own width, and is cut to it
+      texts.emplace_back();  // names get the renderer's own width
       break;
   }
   return texts;
 }
 
 int TitleWidth(GtkTreeViewColumn* column) {
-  // With the arrow that shows how the list is sorted.
+  // Includes the arrow that shows the order of the list.
   const bool is_sorted = gtk_tree_view_column_get_sort_indicator(column);
   gtk_tree_view_column_set_sort_indicator(column, TRUE);
   GtkRequisition wanted;

@@ -1,11 +1,10 @@
-// The sizes of columns and rows of the lists.
+// Widths of columns and heights of rows.
 #pragma once
 
 #include "app/gnome_tcc_applet.h"
 
-// Gives all rows of a list one height, and its columns widths that fit their
-// titles and whatever may stand in them; names share what is left. A list
-// thus shows at once, however long it is: rows of unknown height are measured
-// one by one. To be called when the columns have their titles; follows later
-// changes of the theme by itself.
+// Gives all rows of a list the same height, and each column a width that fits
+// its title and its contents; names share the rest. Even a long list is then
+// shown at once: otherwise the toolkit measures every row. Call this when the
+// columns have their titles. Follows later changes of the theme.
 void fix_list_sizes(GnomeTCCapplet* panel);

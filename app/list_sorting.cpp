@@ -29,7 +29,7 @@ gint Compare(SortKey (*key_of)(GtkTreeModel*, GtkTreeIter*, int),
   return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
-// Null where the toolkit's own order serves.
+// Null where the toolkit's own order is used.
 GtkTreeIterCompareFunc SortFunctionFor(Content content) {
   switch (content) {
     case Content::kSite:
@@ -73,7 +73,7 @@ gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
   return Compare(NumberKey, model, a, b, column);
 }
 
-// Like the toolkit's own calls of this kind, it takes a list ended by -1.
+// Variadic like similar calls of the toolkit.
 // NOLINTNEXTLINE(cert-dcl50-cpp)
 void tree_model_set_column_comparator(GnomeTCCapplet* panel,
                                       const char* list_store_id,

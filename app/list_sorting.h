@@ -1,4 +1,4 @@
-// Sorting of lists by a click on a column's head.
+// Sorts lists when a column header is clicked.
 #pragma once
 
 #include <compare>
@@ -21,16 +21,16 @@ SortKey sort_key_of_domain(const char* domain);
 // "shop.example.com" becomes "com.example.shop"; empty components are dropped.
 std::string reverse_domain_components(const char* domain);
 
-// Sort functions of list stores, by the keys of a column: of a text column that
-// holds domains, and of a column of integers, which are taken as unsigned.
+// Sort functions of list stores. `column` is the column that they compare: one
+// of domains, and one of integers, which count as unsigned.
 gint compare_domain_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
                            gpointer column);
 gint compare_int_column(GtkTreeModel* model, GtkTreeIter* a, GtkTreeIter* b,
                         gpointer column);
 
-// Registers the function on the list store for each of the sort ids, which
-// end at the first negative one. A sort id is the column that the function
-// reads, and its user data.
+// Registers the function on the list store for each sort id up to the first
+// negative one. The sort id is also the function's user data: the column that
+// it compares.
 void tree_model_set_column_comparator(GnomeTCCapplet* panel,
                                       const char* list_store_id,
                                       GtkTreeIterCompareFunc compare,
@@ -39,9 +39,8 @@ void tree_model_set_column_comparator(GnomeTCCapplet* panel,
 // Gives the lists their sort functions and the columns their sort ids.
 void prepare_list_sorting(GnomeTCCapplet* panel);
 
-// While it lives, the sort functions call all rows of the list store equal:
-// rows that are appended in the order of a sorted list then cost no
-// comparison.
+// While it lives, the sort functions treat all rows of the list store as equal.
+// Appending rows in their final order then costs no comparisons.
 class RowsInOrder {
  public:
   explicit RowsInOrder(GtkListStore* store);

@@ -1,5 +1,5 @@
-// The lists and their columns, as the UI definition lays them out. Everything
-// that a list or a column of it is, is in its row here.
+// The lists and their columns, as the UI definition lays them out. The row of a
+// list or a column holds every fact about it.
 #pragma once
 
 #include <iterator>
@@ -21,11 +21,11 @@ constexpr int kNoColumn = -1;
 struct Column {
   const char* id;
   Content content;
-  // Id of the title's text.
+  // Text of the title.
   int title_id;
   const char* fallback;
-  // Columns of the list store: the text that the cells show, what the rows are
-  // sorted by, and the stock id of an icon.
+  // Columns of the list store: the text shown in the cells, the value by which
+  // the rows are sorted, and the stock id of an icon.
   int text_column;
   int sort_column;
   int icon_column = kNoColumn;
@@ -33,17 +33,17 @@ struct Column {
 
 struct List {
   const char* dialog;
-  // Opens the dialog.
+  // The button of a page that opens the dialog.
   const char* page_button;
   const char* tree_view;
   const char* store;
   const char* add_button;
   const char* remove_button;
-  // What a screen reader calls the list.
+  // Text by which a screen reader announces the list.
   int accessible_name_id;
-  // The first one shows the names, which are in column 0 of the list store.
+  // The first one shows the names, which are in kNameColumn.
   std::span<const Column> columns;
-  // Null for the list that is not of sites.
+  // Null when the rows are not sites.
   const Permission* permission = nullptr;
 };
 
@@ -115,7 +115,7 @@ inline constexpr Column kLocationColumns[] = {
 // Indexes of kLists.
 enum ListIndex : int { kCameraList, kStorageList, kNetworkList, kLocationList };
 
-// In the order in which the columns get their titles.
+// In the order in which their columns get titles.
 inline constexpr List kLists[] = {
     {.dialog = "cam_and_mic_by_site_dialog",
      .page_button = "site_privacy_button",
@@ -154,7 +154,7 @@ inline constexpr List kLists[] = {
      .columns = kLocationColumns},
 };
 
-// The lists of sites, by ListIndex as well.
+// The lists whose rows are sites, with the same indexes.
 inline constexpr std::span<const List> kSiteLists =
     std::span(kLists).first<kLocationList>();
 
@@ -166,7 +166,7 @@ constexpr const Column* FindColumn(const List& list, Content content) {
   return nullptr;
 }
 
-// Of a list of sites.
+// For a list whose rows are sites.
 constexpr const Column& PermissionColumn(const List& list) {
   return *FindColumn(list, Content::kPermission);
 }

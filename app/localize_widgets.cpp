@@ -23,7 +23,7 @@ constexpr char kClearsSiteData[] =
     "Clearing local storage may erase saved work, game progress, "
     "history, or preferences.";
 
-// In the order in which they get their texts. The titles of columns follow.
+// In the order in which they get their texts; column titles come last.
 constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"tessary_corvane_dialog", TextKind::kTitle, 11400,
      "Tessary Corvane Player Preferences"},
@@ -174,7 +174,7 @@ void LocalizeLists(GnomeTCCapplet* panel) {
   }
 }
 
-// An entry is called what its label says.
+// A screen reader announces an entry by the text of its label.
 void NameEntries(GnomeTCCapplet* panel) {
   set_accessible_name(panel, "new_site_entry", 91000);
   set_accessible_name(panel, "trusted_location_entry", 84001);

@@ -3,7 +3,7 @@
 
 #include "app/gnome_tcc_applet.h"
 
-// Gives every widget of the UI definition its text in the user's language, and
-// what has no visible label the name by which a screen reader knows it.
-// Called once, at start.
+// Gives every widget of the UI definition its text in the user's language.
+// Widgets without a label of their own get a name for screen readers. Called
+// once, at the start.
 void localize_widgets(GnomeTCCapplet* panel);

@@ -7,10 +7,10 @@
 
 int main(int argc, char** argv) {
   PrepareProcess();
-  // Without a display --help still answers, and everything else is told by
-  // the command line's own message.
+  // Fails without a display. --help works all the same; for everything else
+  // parse_command_line reports it.
   (void)gtk_init_check(&argc, &argv);
-  // Known to the end, since it is never freed.
+  // Static, so that leak checkers still find it at the end.
   static GnomeTCCapplet* const panel = new_panel();
   char* page_name = nullptr;
   if (!parse_command_line(panel, &argc, &argv, &page_name)) {

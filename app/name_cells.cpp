@@ -8,7 +8,7 @@
 
 namespace {
 
-// The toolkit's, on both sides of a text in a list.
+// The toolkit's padding on both sides of a text in a list.
 constexpr int kPadding = 2 + 2;  // pixels
 
 // Longer than the name of any host.
@@ -24,7 +24,7 @@ void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
   g_object_set(renderer, "text", ShownName(name).c_str(), nullptr);
 }
 
-// In the column that shows it.
+// True when the column that shows the name is too narrow for it.
 bool IsCut(GtkTreeView* view, GtkTreePath* path, const std::string& name) {
   GdkRectangle cell;
   gtk_tree_view_get_cell_area(
@@ -37,14 +37,14 @@ bool IsCut(GtkTreeView* view, GtkTreePath* path, const std::string& name) {
   return width + kPadding > cell.width;
 }
 
-// A hyphen at the end of a line would seem to belong to the name.
+// A hyphen at a line break would look like a part of the name.
 PangoAttrList* NewAttributesWithoutHyphens() {
   PangoAttrList* attributes = pango_attr_list_new();
   pango_attr_list_insert(attributes, pango_attr_insert_hyphens_new(FALSE));
   return attributes;
 }
 
-// Breaks lines anywhere: a name need not have blanks.
+// Lines break anywhere: a name may have no spaces.
 PangoLayout* NewWrappedLayout(GtkWidget* view, int width) {
   PangoLayout* layout = gtk_widget_create_pango_layout(view, nullptr);
   pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
@@ -67,7 +67,7 @@ GtkWidget* NewWrappedLabel(PangoLayout* layout, int width) {
   return label;
 }
 
-// As much of the name as fits a third of the screen each way.
+// Shows as much of the name as fits a third of the screen in each direction.
 GtkWidget* NewTooltipLabel(GtkWidget* view, const SASM::SimpleString& name) {
   GdkScreen* screen = gtk_widget_get_screen(view);
   const int highest = gdk_screen_get_height(screen) / 3;
@@ -87,7 +87,7 @@ GtkWidget* NewTooltipLabel(GtkWidget* view, const SASM::SimpleString& name) {
   return label;
 }
 
-// Shows a name whole that is cut in its column.
+// Shows the whole name where its column cuts it.
 gboolean ShowTooltip(GtkWidget* widget, gint x, gint y, gboolean keyboard_mode,
                      GtkTooltip* tooltip, gpointer) {
   auto* view = GTK_TREE_VIEW(widget);
@@ -114,8 +114,7 @@ void show_names(GtkTreeView* view, GtkTreeViewColumn* column) {
   GtkCellRenderer* renderer = get_renderer(column);
   g_object_ref(renderer);
   gtk_cell_layout_clear(GTK_CELL_LAYOUT(column));
-  // The UI builder packs a renderer without letting it grow, so that a name
-  // would be cut in a column that has room for it.
+  // The UI builder packs a renderer so that it does not grow with its column.
   gtk_tree_view_column_pack_start(column, renderer, TRUE);
   g_object_unref(renderer);
   gtk_tree_view_column_set_cell_data_func(column, renderer, ShowName, nullptr,

@@ -1,9 +1,9 @@
-// Names in lists, whatever a file holds.
+// Shows names from files in lists.
 #pragma once
 
 #include <gtk/gtk.h>
 
-// Shows the names of column 0 of the list store in that column of the view: at
-// most some hundred characters, the invisible ones escaped. A name that is cut
-// in its column is whole in its row's tooltip, as far as that fits the screen.
+// Shows the names of kNameColumn in that column of the view: at most some
+// hundred characters, with invisible characters escaped. Where the column cuts
+// a name, a tooltip shows more of it, but never covers half the screen.
 void show_names(GtkTreeView* view, GtkTreeViewColumn* column);

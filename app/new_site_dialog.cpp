@@ -1,4 +1,4 @@
-// The dialog that adds a site, shared by the three site dialogs.
+// The dialog that adds a site. The three site dialogs share it.
 #include "app/dialogs.h"
 #include "app/lists.h"
 #include "app/notebook_pages.h"
@@ -81,7 +81,7 @@ G_MODULE_EXPORT void on_new_site_add_button_clicked(GtkButton*,
   if (index >= kSiteLists.size()) return;
   const SimpleString domain =
       gtk_entry_get_text(GTK_ENTRY(get_widget(panel->builder, kEntry)));
-  // A site that could not be added is missing from the list that follows.
+  // A site that could not be added does not appear in the refilled list.
   (void)panel->settings->AddDomainWithDefaultSettings(domain);
   // Data that could not be deleted is still in the list when it is refilled.
   (void)SetSiteState(*kSiteLists[index].permission, domain,

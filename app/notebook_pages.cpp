@@ -27,7 +27,7 @@ struct RadioButton {
   const char* id;
 };
 
-// The choices for all sites.
+// The radio buttons that show the permissions of all sites.
 constexpr RadioButton kRadioButtons[] = {
     {kStorage, kPermissionStateAlwaysAllow, "storage_allow_radiobutton"},
     {kStorage, kPermissionStateAlwaysAsk, "storage_prompt_radiobutton"},
@@ -49,7 +49,7 @@ void UpdatePermissionPage(GnomeTCCapplet* panel, const List& list) {
   fill_list(panel, list);
 }
 
-// A switch that overrides the sites leaves nothing to set for them.
+// While all sites are blocked, there is nothing to set for single ones.
 void UpdatePlaybackPage(GnomeTCCapplet* panel) {
   const List& list = kLists[kNetworkList];
   const bool are_blocked =

@@ -12,7 +12,6 @@ enum NotebookPage : int {
   kAdvancedPage = 3,
 };
 
-// Brings the page's controls and lists into line with the stored settings;
-// writes nothing. Runs whenever a page becomes current and after every
-// change.
+// Updates the page's controls and lists from the stored settings; writes
+// nothing. Runs whenever a page becomes current and after every change.
 void update_notebook_page(GnomeTCCapplet* panel, int page);

@@ -7,7 +7,7 @@ PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice) {
   return static_cast<PermissionState>(state);
 }
 
-// The rows are in the order of the states, which begin at 1.
+// The rows are in the order of the states. States begin at 1.
 void set_active_state(GtkComboBox* combo_box, PermissionState state) {
   gtk_combo_box_set_active(combo_box, state - 1);
 }

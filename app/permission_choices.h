@@ -1,5 +1,5 @@
-// The rows of the list store permission_settings, which are the choices of
-// every combo box of permissions.
+// Rows of the list store permission_settings: the choices in every combo box
+// of permissions.
 #pragma once
 
 #include <gtk/gtk.h>
@@ -9,5 +9,5 @@
 // The state of a row.
 PermissionState get_choice_state(GtkTreeModel* choices, GtkTreeIter* choice);
 
-// Makes the row of that state the active one of a combo box; none for None.
+// Makes the row of that state active in a combo box; for None, no row.
 void set_active_state(GtkComboBox* combo_box, PermissionState state);

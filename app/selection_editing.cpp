@@ -5,10 +5,10 @@
 
 namespace {
 
-// Where and when a click opened a menu, or the last click that belongs to it.
+// The click that opened a menu, or the last one that was ignored since.
 struct OpeningClick {
-  guint32 time;  // milliseconds, on the display's clock
-  double x;      // on the screen
+  guint32 time;  // milliseconds, by the clock of the display
+  double x;      // pixels on the screen
   double y;
   bool is_pressed;
 };
@@ -20,8 +20,8 @@ bool IsPlainClick(GtkTreeView* view, const GdkEventButton& event) {
          (event.state & gtk_accelerator_get_default_mod_mask()) == 0;
 }
 
-// The row under the pointer, owned by the caller, when the pointer is in the
-// column and the row is one of several selected ones; else null.
+// The row under the pointer if the pointer is in the column and the row is one
+// of several selected ones; otherwise null. The caller owns it.
 GtkTreePath* NewClickedRow(GtkTreeView* view, const GdkEventButton& event,
                            GtkTreeViewColumn* column) {
   GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
@@ -59,7 +59,7 @@ void AllowChanges(GtkTreeSelection* selection, gboolean are_allowed) {
                                          GINT_TO_POINTER(are_allowed), nullptr);
 }
 
-// With a margin for slow and unsteady hands.
+// Allows for slow and unsteady hands.
 bool IsDoubleClick(GtkWidget* widget, const OpeningClick& first,
                    const GdkEventButton& second) {
   constexpr int kShortestTime = 600;  // milliseconds between two clicks
@@ -78,7 +78,7 @@ OpeningClick ClickOf(const GdkEventButton& event) {
           event.type == GDK_BUTTON_PRESS};
 }
 
-// Keeps the second click of a double click from the menu that the first click
+// Hides the second click of a double click from the menu that the first click
 // opened: the menu would take it as a choice.
 gboolean IgnoreDoubleClick(GtkWidget* menu, GdkEvent* event, gpointer data) {
   const bool is_press = event->type == GDK_BUTTON_PRESS;
@@ -92,7 +92,8 @@ gboolean IgnoreDoubleClick(GtkWidget* menu, GdkEvent* event, gpointer data) {
   return TRUE;
 }
 
-// A theme may replace the menu by a list, which does not open at once.
+// Does nothing where a theme replaces the menu by a list: the list is opened by
+// a click of its own.
 void IgnoreDoubleClickOn(GtkCellEditable* combo_box,
                          const GdkEventButton& opening) {
   GList* menus = gtk_menu_get_for_attach_widget(GTK_WIDGET(combo_box));

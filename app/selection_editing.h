@@ -1,10 +1,10 @@
-// Changing several selected rows through the combo box of one of them.
+// Changes several selected rows through the combo box of one of them.
 #pragma once
 
 #include <gtk/gtk.h>
 
-// A click on the column of a row that is one of several selected ones opens
-// the combo box there and keeps the selection; the second click of a double
-// click chooses nothing. The toolkit by itself opens the combo box only on the
-// row where the selection began; on any other row it drops the selection.
+// When several rows are selected, a click on this column of one of them opens
+// its combo box and keeps the selection. A double click chooses nothing. The
+// toolkit by itself does so only on the row where the selection began, and
+// drops the selection on any other.
 void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column);

@@ -12,7 +12,7 @@ using SASM::SimpleString;
 
 namespace {
 
-// What the row callbacks receive.
+// Data of the row callbacks.
 struct ChosenState {
   GnomeTCCapplet* panel;
   PermissionState* state;
@@ -42,7 +42,7 @@ void domain_p2p_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
   WriteRow(kLists[kNetworkList], model, row, data);
 }
 
-// Gives the chosen state to every selected site, not only to the edited one.
+// Gives every selected site the chosen state, not only the edited one.
 void SetSelected(GnomeTCCapplet* panel, const List& list,
                  GtkCellRendererCombo* renderer, GtkTreeIter* choice,
                  GtkTreeSelectionForeachFunc row_callback) {
@@ -83,15 +83,15 @@ const List& ListOf(GnomeTCCapplet* panel, GtkCellRenderer* renderer) {
   g_assert_not_reached();
 }
 
-// The toolkit marks the choice that reads as the edited row does, if any: then
-// the choice under the pointer may not be the row's own, and where the rows
-// differ, choosing the marked one is no change and reaches no row.
+// By itself the toolkit marks the choice whose text is that of the edited row,
+// if there is one. Choosing the marked one is no change: where the selected
+// rows differ, they could not all get it.
 void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
                      const char*, GnomeTCCapplet* panel) {
   const List& list = ListOf(panel, renderer);
   SharedState shared = {.column = PermissionColumn(list).sort_column};
   for_each_selected(panel, list.tree_view, ShareState, &shared);
-  // The renderer takes every change as a choice of the user.
+  // Blocks the renderer, which takes every change as the user's choice.
   g_signal_handlers_block_matched(combo_box, G_SIGNAL_MATCH_DATA, 0, 0, nullptr,
                                   nullptr, renderer);
   set_active_state(GTK_COMBO_BOX(combo_box),
@@ -110,7 +110,7 @@ void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
   auto* panel = static_cast<GnomeTCCapplet*>(data);
   const SimpleString domain = get_domain_field(panel, model, row);
   if (domain.IsEmpty()) return;
-  // What could not be removed is still in the list when it is refilled.
+  // A site that could not be removed is still in the refilled list.
   (void)panel->settings->RemoveDomainInformation(domain, true, true);
 }
 

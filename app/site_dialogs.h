@@ -1,8 +1,8 @@
-// The three dialogs with a permission of each site.
+// The three dialogs that list sites with one permission each.
 #pragma once
 
 #include "app/gnome_tcc_applet.h"
 
-// Lets the combo box of a row begin with the state of all selected rows, if
-// they share one.
+// Marks the state that all selected rows share, if they do, when the combo box
+// of one of them opens.
 void prepare_choices(GnomeTCCapplet* panel);

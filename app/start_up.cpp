@@ -32,8 +32,7 @@ SettingBase* NewMasterSetting(const char* key) {
   return new SettingBase(key, SASM::SettingsManager::MasterDomain());
 }
 
-// With the first setting object the store opens, which reads the settings from
-// disk.
+// The first setting object opens the store, which reads the settings from disk.
 void open_settings(GnomeTCCapplet* panel) {
   panel->builder = gtk_builder_new();
   panel->updating = false;
@@ -58,7 +57,7 @@ bool load_ui(GnomeTCCapplet* panel) {
   return true;
 }
 
-// Makes the page of that name current and fills it; null and unknown names are
+// Makes the page of that name current and fills it. Null and unknown names mean
 // the first page.
 void select_page(GnomeTCCapplet* panel, const char* page_name) {
   GtkNotebook* notebook =
@@ -67,13 +66,13 @@ void select_page(GnomeTCCapplet* panel, const char* page_name) {
   if (page_name) {
     const std::string id = std::string(page_name) + "_vbox";
     GObject* box = gtk_builder_get_object(panel->builder, id.c_str());
-    // -1, of a box that is no page, stands for the last page.
+    // -1 for a box that is no page, which selects the last page.
     if (GTK_IS_WIDGET(box)) {
       page = gtk_notebook_page_num(notebook, GTK_WIDGET(box));
     }
     gtk_notebook_set_current_page(notebook, page);
   }
-  // Of another page the switch has filled the lists.
+  // Switching to any other page has filled it.
   if (page == kStoragePage) update_notebook_page(panel, kStoragePage);
 }
 

@@ -22,7 +22,7 @@ SettingDataItem MakeLocation(const char* path) {
   return {path, SASM::kSettingsDataTypeBool, &trusted};
 }
 
-// The list is changed in place and then stored whole.
+// Stores the whole list after it was changed in place.
 void StoreLocations(GnomeTCCapplet* panel, SDIVector* locations) {
   panel->trusted_paths->setVectorValue(locations);
   update_notebook_page(panel, kCurrentPage);
@@ -36,11 +36,11 @@ void AddLocation(GnomeTCCapplet* panel, const char* path) {
   panel->trusted_paths->setVectorValue(locations);
 }
 
-// A location is trusted, not used: the toolkit is not to note it among the
-// user's recent files, and not to complain where it cannot write.
+// A trusted location has not been opened: it does not belong in the user's
+// recent files, and the toolkit prints a warning where it cannot write those.
 void KeepOutOfRecentFiles() {
   auto* recent_files = GTK_RECENT_MANAGER_CLASS(
-      g_type_class_ref(GTK_TYPE_RECENT_MANAGER));  // kept with the program
+      g_type_class_ref(GTK_TYPE_RECENT_MANAGER));  // never released
   recent_files->changed = nullptr;
 }
 
@@ -53,11 +53,12 @@ void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
       "gtk-cancel", GTK_RESPONSE_CANCEL, "gtk-open", GTK_RESPONSE_ACCEPT,
       nullptr);
   gtk_dialog_set_default_response(GTK_DIALOG(chooser), GTK_RESPONSE_ACCEPT);
-  // In no folder, among recent files, it loses what is typed first.
+  // The chooser otherwise begins with recent files, where it loses the first
+  // keys that are typed.
   gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(chooser),
                                       g_get_home_dir());
   if (gtk_dialog_run(GTK_DIALOG(chooser)) == GTK_RESPONSE_ACCEPT) {
-    // Null for what has no local path.
+    // Null for a file without a local path.
     char* path = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(chooser));
     if (path) AddLocation(panel, path);
     g_free(path);
@@ -66,7 +67,7 @@ void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
   update_notebook_page(panel, kCurrentPage);
 }
 
-// An entry holds only UTF-8: U+FFFD replaces other bytes.
+// The location in UTF-8, as an entry needs it: U+FFFD replaces other bytes.
 std::string EditableText(const SASM::SimpleString& location) {
   char* valid = g_utf8_make_valid(location.c_str(), -1);
   std::string text = valid;
@@ -74,7 +75,7 @@ std::string EditableText(const SASM::SimpleString& location) {
   return text;
 }
 
-// The row may show an excerpt, or invisible characters escaped.
+// Replaces the text of the row, which may be an excerpt or escaped.
 void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
                        const char* path, GnomeTCCapplet* panel) {
   auto* model = GTK_TREE_MODEL(get_list_store(panel->builder, kList.store));
@@ -91,8 +92,9 @@ bool IsCollected(const GnomeTCCapplet* panel, guint32 index) {
   return row != nullptr;
 }
 
-// The list index behind a row: the row's own, unless the user has sorted the
-// rows; then that of an entry of the row's text which is not collected yet.
+// The index in the stored list of the entry that a row shows. Where the user
+// has sorted the rows, finds an entry with the same text that is not yet
+// collected.
 guint32 ListIndexOf(const GnomeTCCapplet* panel, const SDIVector& locations,
                     guint32 row_index, const SASM::SimpleString& text) {
   if (row_index < locations.count && locations.At(row_index)->name == text &&
@@ -105,15 +107,15 @@ guint32 ListIndexOf(const GnomeTCCapplet* panel, const SDIVector& locations,
   return locations.count;
 }
 
-// Keeps selected_rows in descending order, so that every removal leaves the
-// indices that follow valid.
+// Keeps selected_rows in descending order: each removal then leaves the
+// remaining indices valid.
 void Collect(GnomeTCCapplet* panel, guint32 index) {
   SelectedRow** place = &panel->selected_rows;
   while (*place && (*place)->index > index) place = &(*place)->next;
   *place = new SelectedRow{index, *place};
 }
 
-// Beyond every list when there is no such row.
+// An index beyond any list when there is no such row.
 guint32 ListIndexOf(GnomeTCCapplet* panel, GtkTreeModel* model,
                     unsigned long row_index) {
   GtkTreeIter row;
@@ -182,7 +184,7 @@ G_MODULE_EXPORT void on_trusted_location_edited(GtkCellRendererText*,
   GtkListStore* store = get_list_store(panel->builder, kList.store);
   const guint32 index = ListIndexOf(panel, GTK_TREE_MODEL(store), row_index);
   if (index < locations->count) {
-    // Unchanged: replaced bytes must not be stored.
+    // Unchanged: storing U+FFFD would lose the original bytes.
     if (EditableText(locations->At(index)->name) == text) return;
     locations->ReplaceElementAtIndex(index, MakeLocation(text));
   }

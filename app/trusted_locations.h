@@ -3,5 +3,5 @@
 
 #include "app/gnome_tcc_applet.h"
 
-// Lets a row be edited as the location it stands for, not as it is shown.
+// Makes editing a row begin with the location itself, not with what is shown.
 void prepare_location_editing(GnomeTCCapplet* panel);

@@ -1,4 +1,4 @@
-// What the build makes of the files in app/ui/.
+// Constants that the build generates from the files in app/ui/.
 #pragma once
 
 #include <glib.h>
