@@ -13,7 +13,7 @@ constexpr int kLargestWidth = 800;
 constexpr int kLargestHeight = 600;
 constexpr char kLargestFont[] = "Sans 11";
 
-// What the toolkit brings itself, and what people use.
+// The toolkit's own look, and the usual theme.
 constexpr char kBareTheme[] = "/dev/null";
 constexpr char kUsualTheme[] = "/usr/share/themes/Adwaita/gtk-2.0/gtkrc";
 

@@ -9,7 +9,7 @@ using testing::ElementsAre;
 
 class LoadTest : public PanelTest {
  protected:
-  // As on the screen: draws the rows, and lets the toolkit look at each name.
+  // Draws the first and the last rows.
   void ShowList(const List& list) {
     gtk_widget_show(Widget(list.dialog));
     Settle();
@@ -23,7 +23,7 @@ class LoadTest : public PanelTest {
     Settle();
   }
 
-  // Of the row with the cursor.
+  // Shows or hides the tooltip of the row with the cursor.
   void ToggleTooltip(const char* tree_view) {
     gboolean is_toggled = FALSE;
     g_signal_emit_by_name(Widget(tree_view), "show-help",
@@ -74,8 +74,8 @@ TEST_F(LoadTest, TenThousandSites) {
   EXPECT_EQ(stored, sites);
 }
 
-// Names that are no text, that look like markup, that read right to left,
-// that fill a line: shown, kept by their own bytes, and removable.
+// Names that are not text, look like markup, read from right to left or fill
+// a line can be shown, changed and removed, and keep their bytes.
 TEST_F(LoadTest, NamesThatAreHardToShow) {
   const Names sites = {"caf\xe9.example",
                        "<b>&amp;</i>",
@@ -112,8 +112,8 @@ TEST_F(LoadTest, HugeNamesFitTheScreen) {
   Start();
   g_object_set(gtk_settings_get_default(), "gtk-font-name", "Sans 40", nullptr);
   Click("compat_settings_button");
-  // Without a window manager the window under the pointer has the focus: not
-  // a tooltip.
+  // Without a window manager the window under the pointer gets the focus. A
+  // tooltip must not get it.
   gdk_display_warp_pointer(gdk_display_get_default(), gdk_screen_get_default(),
                            gdk_screen_width() - 1, gdk_screen_height() - 1);
   Settle();
@@ -131,7 +131,7 @@ TEST_F(LoadTest, HugeNamesFitTheScreen) {
   }
 }
 
-// The longest name that a settings file holds; no file can be named so.
+// The longest name that a settings file can hold; too long for a file's name.
 TEST_F(LoadTest, LongestNames) {
   const std::string longest(65535, 'W');
   home_.AddLocations({"/a", longest});

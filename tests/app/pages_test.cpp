@@ -1,4 +1,4 @@
-// What the pages do that does not show on a screen, or only for a while.
+// Effects of the pages that a user does not see, or not at once.
 #include "app/notebook_pages.h"
 #include "store/setting_keys.h"
 #include "tests/app/panel_test.h"
@@ -16,7 +16,7 @@ class PagesTest : public PanelTest {
   }
 };
 
-// Showing what is stored presses buttons, as a user does.
+// Filling a page switches buttons, which emits the signals of a user's click.
 TEST_F(PagesTest, FillingAPageWritesNothing) {
   home_.Write(
       PanelHome::MasterFile(),
@@ -31,7 +31,7 @@ TEST_F(PagesTest, FillingAPageWritesNothing) {
   EXPECT_EQ(home_.Disk(), before);
 }
 
-// What is changed on another page is stored at once, but shown in its turn.
+// A change on another page is stored at once, but shown when the page is.
 TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
   Start("privacy");
   EXPECT_THAT(Column("site_storage_list", 0), IsEmpty());

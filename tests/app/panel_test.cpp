@@ -9,7 +9,7 @@ void PanelTest::Start(const char* page_name) {
   g_log_set_always_fatal(static_cast<GLogLevelFlags>(
       G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING));
   gtk_init(nullptr, nullptr);
-  // What the panel keeps is its own until the process ends.
+  // The panel's objects live until the process ends.
   static GnomeTCCapplet* const panel = new_panel();
   panel_ = panel;
   ASSERT_TRUE(open_panel(panel_, page_name));

@@ -1,4 +1,4 @@
-// The panel in the test's own process, on a home of the test's own.
+// Runs the panel in the process of the test, in a home of its own.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -10,21 +10,21 @@
 #include "app/lists.h"
 #include "tests/support/panel_home.h"
 
-// Needs a process for each test: the panel's store is one for a process. Any
-// warning of the toolkit ends the test.
+// Each test needs a process of its own, as a process has one store. Any warning
+// of the toolkit ends the test.
 class PanelTest : public ::testing::Test {
  protected:
   using Names = PanelHome::Names;
 
   void Start(const char* page_name = nullptr);
   void GoToPage(int page);
-  // Handles what is pending, until the display has nothing more to say.
+  // Handles events until none is pending.
   static void Settle();
 
   void Click(const char* button);
   void Choose(const char* toggle_button);
   void Select(const char* tree_view, std::initializer_list<int> rows);
-  // As by the combo box of the first selected row.
+  // Emits the signal of the combo box of the first selected row.
   void ChooseInList(ListIndex index, PermissionState state);
 
   // The texts of a list store's column, from top to bottom.

@@ -66,7 +66,7 @@ TEST_F(WidgetsTest, ErrorDialogsShowWhatTheyAreGiven) {
             "Lost: .");
 }
 
-// The width a label wraps at is that of its first allocation, less a little.
+// A label wraps at the width of its first allocation, less a little.
 TEST_F(WidgetsTest, WrappedLabelsKeepTheirFirstWidth) {
   const int first = WidthOf("storage_explanatory_label");
   EXPECT_GT(first, 100);

@@ -58,7 +58,7 @@ std::string Accessible::Role() const {
 bool Accessible::Is(State state) const {
   GVariantIter* words = nullptr;
   if (!Ask(kAccessible, "GetState", nullptr, "(au)", &words)) return false;
-  guint32 low_word = 0;  // that of the first 32 states
+  guint32 low_word = 0;  // has the first 32 states
   g_variant_iter_next(words, "u", &low_word);
   g_variant_iter_free(words);
   return (low_word >> state & 1) != 0;

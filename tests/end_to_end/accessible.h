@@ -1,4 +1,4 @@
-// What an assistive technology sees of the programs on a desktop.
+// The programs on a desktop, as an assistive technology sees them.
 #pragma once
 
 #include <gio/gio.h>
@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-// A node of the accessibility tree, asked anew over the accessibility bus for
-// everything. What is asked of a node that has gone is empty or false.
+// A node of the accessibility tree. Every call asks over the accessibility bus;
+// for a node that no longer exists the answer is empty or false.
 class Accessible {
  public:
   // The numbers are those of the accessibility protocol.
@@ -27,15 +27,15 @@ class Accessible {
   // "push button".
   [[nodiscard]] std::string Role() const;
   [[nodiscard]] bool Is(State state) const;
-  // The middle, as "x y", in pixels of the screen.
+  // The centre as "x y", in pixels on the screen.
   [[nodiscard]] std::string Place() const;
 
   [[nodiscard]] std::vector<Accessible> Children() const;
-  // Those below that fit, each before its own children.
+  // The nodes below that meet the condition, each before its children.
   using Condition = std::function<bool(const Accessible&)>;
   [[nodiscard]] std::vector<Accessible> FindAll(const Condition& fits) const;
 
-  // Does what a click on it does. False when it cannot be done.
+  // Has the effect of a click. False on failure.
   [[nodiscard]] bool Act() const;
   [[nodiscard]] bool Focus() const;
 
@@ -43,8 +43,8 @@ class Accessible {
   Accessible(const char* program, const char* path)
       : program_(program), path_(path) {}
 
-  // Takes the values of the answer, whose format is as of g_variant_get().
-  // False, and no value is taken, when there is no such answer.
+  // Reads the values from the answer, in a format of g_variant_get(). Without an
+  // answer in that format reads nothing and returns false.
   template <typename... Values>
   bool Ask(const char* interface, const char* method, GVariant* arguments,
            const char* format, Values*... values) const;

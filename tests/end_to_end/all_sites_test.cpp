@@ -1,4 +1,4 @@
-// What holds for all sites at once.
+// Settings and deletions that reach all sites.
 #include <filesystem>
 
 #include "tests/end_to_end/end_to_end_test.h"
@@ -111,7 +111,7 @@ TEST_P(DeleteAllTest, DeletesWhatIsChecked) {
 INSTANTIATE_TEST_SUITE_P(SitesAndLicences, DeleteAllTest,
                          testing::Combine(testing::Bool(), testing::Bool()));
 
-// The program says so for each kind of data, and goes on.
+// The program reports each kind of data, and goes on.
 TEST_F(AllSitesTest, SaysWhatCouldNotBeDeleted) {
   home_.Write("file", "");
   std::filesystem::remove_all(home_ / ".tessary/Corvane_Player");

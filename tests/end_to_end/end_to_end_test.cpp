@@ -5,9 +5,8 @@
 
 namespace {
 
-// The accessibility modules leak, and so does the file chooser: in builds
-// that look for leaks this is left to the tests without them. A program that
-// does not end is ended, long after a test has failed.
+// The accessibility modules and the file chooser leak: leaks are detected by
+// the tests without them. The time limit ends a program that hangs.
 const std::string kCommand =
     "G_DEBUG=fatal-warnings GTK_MODULES=gail:atk-bridge"
     " LSAN_OPTIONS=detect_leaks=0 timeout 60 " +
@@ -31,7 +30,7 @@ std::string ClickAtPlaceOf(const Accessible& node) {
 bool EndToEndTest::Eventually(const std::function<bool()>& condition) {
   const auto deadline = std::chrono::steady_clock::now() + kPatience;
   while (!condition()) {
-    // What fails once is not waited for again.
+    // Waits only once in a failing test.
     if (HasFailure() || std::chrono::steady_clock::now() > deadline) {
       return false;
     }

@@ -7,7 +7,7 @@ using testing::StartsWith;
 
 namespace {
 
-// A dialog, what opens it, and what its button "Add…" opens in turn.
+// A dialog, the button that opens it, and the dialog that its "Add…" opens.
 struct DialogCase {
   const char* page;
   const char* opener;
@@ -36,7 +36,7 @@ constexpr DialogCase kDialogs[] = {
      false},
 };
 
-// What only holds other things, or is part of a control that has a name.
+// Roles of containers, and of parts of a control that has a name.
 const std::set<std::string> kNeedNoName = {
     "filler",   "icon",       "image",     "menu",        "page tab list",
     "panel",    "scroll bar", "separator", "scroll pane", "table cell",
@@ -123,7 +123,7 @@ TEST_F(ProgramTest, AnswersOnTheCommandLine) {
   EXPECT_THAT(home_.List(), IsEmpty());
 }
 
-// No name of a page is the first one; a box that is no page, the last.
+// An unknown name shows the first page; a box that is no page, the last.
 TEST_F(ProgramTest, ShowsSomePageWhateverTheName) {
   Start("-p nonsense");
   (void)Get({"push button"}, "Local Storage Settings by Site…");
@@ -132,7 +132,7 @@ TEST_F(ProgramTest, ShowsSomePageWhateverTheName) {
   (void)Get({"push button"}, "Trusted Location Settings…");
 }
 
-// Whatever the files hold: a usable window, and the reader's own messages.
+// The window is usable whatever the files hold.
 TEST_F(ProgramTest, StartsOnDamagedFiles) {
   home_.AddSites({"a.example", "b.example"});
   const std::string master = home_.Read(PanelHome::MasterFile());
@@ -151,5 +151,5 @@ TEST_F(ProgramTest, StartsOnDamagedFiles) {
     Close("(SMSettingsReader: [^\n]*\n)*");
   }
   home_.Write(PanelHome::MasterFile(), "\xff");
-  Start("2>&-");  // where messages could go into the display's connection
+  Start("2>&-");  // messages must not go into the connection to the display
 }

@@ -4,7 +4,7 @@ namespace {
 
 enum Choice { kBlock, kAsk, kAllow };
 
-// As a row shows them, and the keys that choose them in a menu or a box.
+// Their texts in a row, and the keys that choose them.
 constexpr const char* kShown[] = {"Block", "Ask me", "Allow"};
 const std::string kKeys[] = {"Home", "Home Down", "End"};
 
@@ -15,7 +15,7 @@ struct ListCase {
   const char* title;
   const char* title_of_adding;
   const char* permission_column;
-  Choice preset;  // where a site is added
+  Choice preset;  // in the dialog that adds a site
 } constexpr kLists[] = {
     {"storage", "Local Storage Settings by Site",
      "Add Local Storage Setting by Site", "Storage Access", kAllow},
@@ -84,7 +84,7 @@ class EveryListTest : public SiteListTest,
 
 TEST_P(EveryListTest, AddsASiteOrChangesAKnownOne) {
   Open(GetParam(), {"b.example", "a.example"});
-  // As typed: not trimmed, not in lower case.
+  // Added as typed: neither trimmed nor in lower case.
   Add(" New.Example");
   ExpectStored(kMaster, "domains", "[b.example a.example  New.Example]");
   ExpectState(" New.Example", list_.preset);
@@ -104,13 +104,13 @@ TEST_P(EveryListTest, AChoiceReachesEverySelectedSite) {
     Press(kKeys[choice] + " Return");
     ExpectState("a.example", choice);
     ExpectState("c.example", choice);
-    // By then the rows are others, and none is selected.
+    // Waits for the refilled list, in which no row is selected.
     (void)Get({"table cell"}, kShown[choice]);
   }
   EXPECT_EQ(home_.Read(PanelHome::SettingsFileOf("b.example")), before);
 }
 
-// By reversed name, or by permission; the order outlives a change of the rows.
+// Sorted by reversed name or by permission; a refill keeps the order.
 TEST_P(EveryListTest, RemovesSelectedSitesOfASortedList) {
   const std::string data = home_.AddData("example", 9);
   Open(GetParam(), {"shop.a.example", "z.b.example", "a.example"});
@@ -136,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(, EveryListTest,
                          testing::Values(kStorage, kCamera, kPeers));
 
 TEST_F(SiteListTest, StorageIsSortedByBytesAndDeletedByABlock) {
-  // The texts of the last two sort the other way round.
+  // As texts, the last two sizes would be in the opposite order.
   const std::string data = home_.AddData("big.example", 2 << 20);
   home_.AddData("small.example", 900 << 10);
   Open(kStorage, {"big.example", "empty.example", "small.example"});
@@ -157,8 +157,8 @@ TEST_F(SiteListTest, TypingFindsASiteAndDeleteRemovesIt) {
   ExpectStored(kMaster, "domains", "[a.example b.example z.example]");
 }
 
-// A click on the permission of a selected row keeps the selection; a double
-// click opens the menu and chooses nothing, whatever lies under the pointer.
+// A click on the permission of a selected row keeps the selection. A double
+// click opens the menu and chooses nothing.
 TEST_F(SiteListTest, ChangesSeveralPermissionsByMouse) {
   Open(kStorage, {"a.example", "b.example", "c.example"});
   Select({"a.example", "c.example"});
@@ -167,7 +167,7 @@ TEST_F(SiteListTest, ChangesSeveralPermissionsByMouse) {
   ExpectState("a.example", kBlock);
   ExpectState("c.example", kBlock);
   ExpectState("b.example", kAllow);
-  // What one of them has already.
+  // The state that one of them already has.
   Select({"a.example", "b.example"});
   ClickAt(Get({"table cell"}, "Allow"));
   (void)Get({"menu item"}, "Allow");

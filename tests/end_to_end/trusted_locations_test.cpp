@@ -51,7 +51,7 @@ TEST_F(TrustedLocationsTest, AreAddedEditedAndRemoved) {
   ExpectLocations("[/c " + folder_ + " " + folder_ + "]");
 }
 
-// The rows then stand in another order than the stored list.
+// The rows are then in another order than the stored list.
 TEST_F(TrustedLocationsTest, TheRowIsMeantInASortedList) {
   home_.AddLocations({"/b", "/d", "/a", "/b", "/c"});
   Open();
@@ -64,8 +64,8 @@ TEST_F(TrustedLocationsTest, TheRowIsMeantInASortedList) {
   ExpectLocations("[/a /b]");
 }
 
-// Bytes that are no text are shown escaped; an edit that leaves the row as
-// it is must not write what replaces them in the entry.
+// Bytes that are not text are shown escaped, and replaced in the entry. An edit
+// without a change must not store the replacement.
 TEST_F(TrustedLocationsTest, KeepsBytesThatAreNoText) {
   const std::string deep = "/" + std::string(400, 'd');
   home_.AddLocations({"/caf\xe9", "/b", deep + "/\u202E"});
@@ -82,7 +82,7 @@ TEST_F(TrustedLocationsTest, KeepsBytesThatAreNoText) {
   ExpectLocations("[/caf\xe9 " + deep + "/]");
 }
 
-// Another type under the key is no list: nothing to show, nothing to change.
+// A value of another type is no list: it is neither shown nor changed.
 TEST_F(TrustedLocationsTest, LeavesAloneWhatIsNoList) {
   home_.Write(
       PanelHome::MasterFile(),
