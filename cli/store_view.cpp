@@ -21,7 +21,7 @@ StoreView::StoreView(const SASM::FileManager& files)
   }
   if (!master_) master_ = std::make_unique<SettingsDictionary>();
   SASM::InsertMissingDefaults(SASM::DefaultMasterSettings(), *master_,
-                                    master_.get());
+                              master_.get());
 }
 
 PermissionSettings StoreView::Global() const {
