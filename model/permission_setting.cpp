@@ -20,6 +20,6 @@ PermissionSetting::_SettingsPermissionState PermissionSetting::getState() {
 }
 
 void PermissionSetting::setState(_SettingsPermissionState state) {
-  setBoolValue(state != kPermissionStateAlwaysAsk, always_key_);
-  setBoolValue(state == kPermissionStateAlwaysAllow, allow_key_);
+  setBoolValue(AlwaysOf(state), always_key_);
+  setBoolValue(AllowOf(state), allow_key_);
 }

@@ -65,3 +65,29 @@ double StoredLimitKb(const SettingsDictionary* site) {
 double GlobalLimitKb(const SettingsDictionary* master) {
   return ReadLimitKb(kPermissions[kStorage].global_key, master);
 }
+
+void PutNumber(const char* key, double number, SettingsDictionary* dictionary) {
+  dictionary->insert(key, SettingDataItem(key, number));
+}
+
+void PutBool(const char* key, bool boolean, SettingsDictionary* dictionary) {
+  dictionary->insert(key, SettingDataItem(key, boolean));
+}
+
+void PutSiteState(const Permission& permission, PermissionState state,
+                  SettingsDictionary* site) {
+  if (permission.limit_key) {
+    return PutNumber(permission.limit_key, FindChoice(state)->limit_kb, site);
+  }
+  PutBool(permission.always_key, AlwaysOf(state), site);
+  PutBool(permission.allow_key, AllowOf(state), site);
+}
+
+void PutGlobalState(const Permission& permission, PermissionState state,
+                    SettingsDictionary* master) {
+  if (permission.limit_key) {
+    return PutNumber(permission.global_key, FindChoice(state)->limit_kb,
+                     master);
+  }
+  PutBool(permission.global_key, state == kPermissionStateAlwaysDeny, master);
+}

@@ -143,6 +143,14 @@ static_assert(kPermissions[kStorage].kind == kStorage &&
   return allow ? kPermissionStateAlwaysAllow : kPermissionStateAlwaysDeny;
 }
 
+// The two booleans that are stored for a state: those of Block for None.
+[[nodiscard]] constexpr bool AlwaysOf(PermissionState state) {
+  return state != kPermissionStateAlwaysAsk;
+}
+[[nodiscard]] constexpr bool AllowOf(PermissionState state) {
+  return state == kPermissionStateAlwaysAllow;
+}
+
 // The state that a limit stands for: Block for every other negative one.
 [[nodiscard]] constexpr PermissionState StateOfLimit(double limit_kb) {
   if (limit_kb > 0 || limit_kb == kUnlimited) {
@@ -179,3 +187,16 @@ static_assert(kPermissions[kStorage].kind == kStorage &&
 // The limit stored for a site, and for all sites.
 [[nodiscard]] double StoredLimitKb(const SASM::SettingsDictionary* site);
 [[nodiscard]] double GlobalLimitKb(const SASM::SettingsDictionary* master);
+
+// Put what stands for a state into a dictionary: that of a site, or that of
+// the global settings, where a switch knows only Block; any other state counts
+// as Ask there. The state is not None.
+void PutSiteState(const Permission& permission, PermissionState state,
+                  SASM::SettingsDictionary* site);
+void PutGlobalState(const Permission& permission, PermissionState state,
+                    SASM::SettingsDictionary* master);
+// Puts a number under a key, or a boolean.
+void PutNumber(const char* key, double number,
+               SASM::SettingsDictionary* dictionary);
+void PutBool(const char* key, bool boolean,
+             SASM::SettingsDictionary* dictionary);
