@@ -117,6 +117,11 @@ class SettingsManager {
   // once for one that is listed. False when a file could not be written, and
   // with nothing changed for a name that is no site's.
   bool AddDomainWithDefaultSettings(const SimpleString& domain);
+  // Put a site at the end of the list, as it is, and take one element of its
+  // name off the list, with its settings left alone. True at once for one that
+  // is listed, or is not. False when the list could not be written.
+  bool AddToList(const SimpleString& site);
+  bool RemoveFromList(const SimpleString& site);
 
   // --- Removal and sizes
   //

@@ -131,10 +131,23 @@ bool SettingsManager::AddDomainWithDefaultSettings(const SimpleString& domain) {
   if (!DictionaryToChange(MasterDomain())) return false;
   if (IsListed(domain)) return true;
   if (!WriteOrUpdateSettingsForDomain(domain)) return false;
+  return AddToList(domain);
+}
+
+bool SettingsManager::AddToList(const SimpleString& site) {
+  if (!IsSiteName(site) || !DictionaryToChange(MasterDomain())) return false;
+  if (IsListed(site)) return true;
   const bool listed = true;  // the value is never read
-  const SettingDataItem element(domain, kSettingsDataTypeBool, &listed);
+  const SettingDataItem element(site, kSettingsDataTypeBool, &listed);
   GetDomains()->addElement(&element);
-  if (mListChanges) mListChanges->NoteAppended(domain);
+  if (mListChanges) mListChanges->NoteAppended(site);
+  return StoreDomains();
+}
+
+bool SettingsManager::RemoveFromList(const SimpleString& site) {
+  if (!DictionaryToChange(MasterDomain())) return false;
+  if (!IsListed(site)) return true;
+  Unlist(site);
   return StoreDomains();
 }
 
