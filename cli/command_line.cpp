@@ -3,59 +3,79 @@
 #include <getopt.h>
 
 #include <algorithm>
-#include <iterator>
-#include <string>
-#include <string_view>
+#include <charconv>
+#include <cmath>
+
+#include "cli/commands.h"
+#include "strings/printable_text.h"
 
 namespace {
 
-using Action = CommandLine::Action;
-
-struct CommandRow {
-  const char* word;
-  const char* arguments;
-  const char* help;
-  Action action;
-  // Letters of the options that this command takes, beside --help and
-  // --version.
-  const char* options;
-  bool takes_names;
-  bool needs_names;
-};
-
-constexpr CommandRow kCommands[] = {
+constexpr Command kCommands[] = {
     {"show", "[SITE...]", "show the global settings and those of the sites",
-     Action::kShow, "jp", true, false},
+     "jpN0", false, nullptr, true, RunShow},
     {"inspect", "FILE...", "show what settings files hold, entry by entry",
-     Action::kInspect, "j", true, true},
-    {"version", "", "show which versions are installed", Action::kVersion, "",
-     false, false},
+     "jsg", false, nullptr, true, RunInspect},
+    {"doctor", "", "find what is wrong and what no list shows", "jrn", false,
+     nullptr, false, RunDoctor},
+    {"export", "[SITE...]", "print all settings as a JSON document", "o", false,
+     nullptr, true, RunExport},
+    {"import", "FILE", "apply such a document", "RDn", true, "a file", true,
+     RunImport},
+    {"set", "KIND=STATE... SITE...", "set permissions of sites", "aAn", true,
+     "a permission", true, RunSet},
+    {"remove", "SITE...", "remove sites, with their settings and data", "kn",
+     true, "a site", true, RunRemove},
+    {"clear", "WHAT...", "delete what sites and the plug-in have stored", "KOn",
+     true, "what to clear", true, RunClear},
+    {"trust", "PATH...", "add trusted locations", "n", true, "a path", true,
+     RunTrust},
+    {"untrust", "PATH...", "remove trusted locations", "n", true, "a path",
+     true, RunUntrust},
+    {"version", "", "show which versions are installed", "", false, nullptr,
+     false, RunVersion},
 };
 
 struct OptionRow {
-  char letter;
+  Option option;
+  bool is_short;
   const char* name;
   const char* argument;
   const char* help;
 };
 
 constexpr OptionRow kOptions[] = {
-    {'j', "json", nullptr, "with show or inspect: print JSON"},
-    {'p', "permission", "KIND=STATE",
-     "with show: only sites with this permission"},
-    {'h', "help", nullptr, "print this help and exit"},
-    {'V', "version", nullptr, "print the version of this program and exit"},
+    {kJson, true, "json", nullptr, "print JSON"},
+    {kPermission, true, "permission", "KIND=STATE",
+     "only sites with this permission"},
+    {kNames, false, "names", nullptr, "only the names of the listed sites"},
+    {kNull, false, "null", nullptr,
+     "end each name with a zero byte, not a line"},
+    {kSite, false, "site", "NAME", "the settings file of a site"},
+    {kGlobal, false, "global", nullptr, "the file of the global settings"},
+    {kRelist, false, "relist", nullptr,
+     "put sites that are not listed on the list"},
+    {kOutput, true, "output", "FILE", "write to this file"},
+    {kReplace, false, "replace", nullptr,
+     "remove what the document does not name"},
+    {kDeleteData, false, "delete-data", nullptr,
+     "delete the stored data of sites that are blocked or removed"},
+    {kAdd, false, "add", nullptr, "add sites that are not listed"},
+    {kAllSites, false, "all-sites", nullptr,
+     "the global setting, as in the panel"},
+    {kKeepData, false, "keep-data", nullptr, "leave the stored data"},
+    {kKeep, false, "keep", "SITE", "leave this site; .SITE: and those below"},
+    {kOlderThan, false, "older-than", "AGE",
+     "only stored data of this age, such as 30d or 12h"},
+    {kDryRun, false, "dry-run", nullptr, "print changes, make none"},
+    {kHelp, true, "help", nullptr, "print this help and exit"},
+    {kVersion, true, "version", nullptr,
+     "print the version of this program and exit"},
 };
 
-// These return false, for callers that then fail.
-bool SuggestHelp() {
-  std::fprintf(stderr, "Try '%s --help'.\n", kProgramName);
-  return false;
-}
-bool PrintUsageError(const char* message, std::string_view argument = "") {
-  std::fprintf(stderr, "%s: %s%.*s\n", kProgramName, message,
-               static_cast<int>(argument.size()), argument.data());
-  return SuggestHelp();
+// False, for callers that then fail.
+bool Refuse(std::string_view message, std::string_view argument = "") {
+  return PrintUsageError(message, argument) == kSuccess;
 }
 
 template <typename Rows>
@@ -77,35 +97,18 @@ std::string Alternatives(const Row (&rows)[count]) {
   return text;
 }
 
-bool ParseFilter(std::string_view text, CommandLine* command) {
-  const std::size_t equals = text.find('=');
-  if (equals != text.npos) {
-    const auto* permission = FindWord(kPermissions, text.substr(0, equals));
-    const auto* choice = FindWord(kPermissionChoices, text.substr(equals + 1));
-    if (permission && choice) {
-      command->filters.push_back({permission->kind, choice->state});
-      return true;
-    }
+// "show, inspect", or nothing for an option of every command.
+std::string CommandsWith(Option option) {
+  std::string text;
+  for (const Command& command : kCommands) {
+    if (command.options.find(option) == std::string_view::npos) continue;
+    text += (text.empty() ? "" : ", ") + std::string(command.word);
   }
-  return PrintUsageError("no such permission: ", text);
+  return text;
 }
 
-bool ParseCommand(std::span<char* const> words, std::string_view option_letters,
-                  CommandLine* command) {
-  if (words.empty()) return PrintUsageError("a command is missing");
-  const CommandRow* row = FindWord(kCommands, words[0]);
-  if (!row) return PrintUsageError("no such command: ", words[0]);
-  const std::size_t refused = option_letters.find_first_not_of(row->options);
-  if (refused != option_letters.npos) {
-    return PrintUsageError("the command does not take the option -",
-                           option_letters.substr(refused, 1));
-  }
-  command->action = row->action;
-  command->names = words.subspan(1);
-  if (command->names.empty()) {
-    return !row->needs_names || PrintUsageError("a file is missing");
-  }
-  return row->takes_names || PrintUsageError("unexpected argument: ", words[1]);
+const OptionRow* RowOf(Option option) {
+  return std::ranges::find(kOptions, option, &OptionRow::option);
 }
 
 // kOptions in the form of getopt_long(3).
@@ -113,64 +116,167 @@ struct OptionTables {
   OptionTables() {
     for (const OptionRow& row : kOptions) {
       const int has_argument = row.argument ? required_argument : no_argument;
-      names.push_back({row.name, has_argument, nullptr, row.letter});
-      letters += row.letter;
-      if (row.argument) letters += ':';
+      names.push_back({row.name, has_argument, nullptr, row.option});
+      if (row.is_short) letters += row.option;
+      if (row.is_short && row.argument) letters += ':';
     }
     names.push_back({});
   }
 
   std::vector<option> names;
-  std::string letters;
+  // The dash hands words over in their place among the options, the colon keeps
+  // the library from printing what nobody has made printable.
+  std::string letters = "-:";
 };
 
-}  // namespace
+// `argument` is where the library stopped; a group of short options has not
+// been left then.
+bool RefuseOption(int reason, std::string_view argument) {
+  const auto letter = static_cast<char>(optopt);
+  const bool is_known =
+      std::ranges::count(kOptions, letter, &OptionRow::option);
+  if (reason == ':') return Refuse("the option needs an argument: ", argument);
+  if (is_known) return Refuse("the option takes no argument: ", argument);
+  if (optopt) return Refuse("no such option: ", std::string{'-', letter});
+  return Refuse("no such option: ", argument);
+}
 
-bool ParseCommandLine(std::span<char*> arguments, CommandLine* command) {
+// False when an option is wrong, which is reported.
+bool SplitArguments(std::span<char*> arguments, CommandLine* line) {
+  constexpr int kWord = 1;
   const OptionTables tables;
   const auto count = static_cast<int>(arguments.size());
-  std::string option_letters;
   for (;;) {
     const int letter =
         getopt_long(count, arguments.data(), tables.letters.c_str(),
                     tables.names.data(), nullptr);
     if (letter == -1) break;
-    if (letter == '?') return SuggestHelp();
-    option_letters += static_cast<char>(letter);
-    if (letter == 'j') command->json = true;
-    if (letter == 'p' && !ParseFilter(optarg, command)) return false;
-    if (letter != 'h' && letter != 'V') continue;
-    command->action = letter == 'h' ? Action::kHelp : Action::kProgramVersion;
+    if (letter == '?' || letter == ':') {
+      return RefuseOption(letter,
+                          arguments[static_cast<std::size_t>(optind) - 1]);
+    }
+    if (letter == kWord) {
+      line->words.push_back(optarg);
+    } else {
+      line->options.push_back({static_cast<Option>(letter), optarg});
+    }
+  }
+  line->words_before_dashes = line->words.size();
+  const auto rest = arguments.subspan(static_cast<std::size_t>(optind));
+  line->words.insert(line->words.end(), rest.begin(), rest.end());
+  return true;
+}
+
+// Takes the command's word off the words.
+bool TakeCommand(CommandLine* line) {
+  if (line->words.empty()) return Refuse("a command is missing");
+  line->command = FindWord(kCommands, line->words[0]);
+  if (!line->command) return Refuse("no such command: ", line->words[0]);
+  line->words.erase(line->words.begin());
+  if (line->words_before_dashes > 0) --line->words_before_dashes;
+  return true;
+}
+
+bool CheckArguments(const CommandLine& line) {
+  const Command& command = *line.command;
+  for (const auto& given : line.options) {
+    if (command.options.find(given.option) == std::string_view::npos) {
+      return Refuse("the command does not take the option --",
+                    RowOf(given.option)->name);
+    }
+  }
+  if (command.needed_word && line.words.empty()) {
+    return Refuse(std::string(command.needed_word) + " is missing");
+  }
+  return command.takes_words || line.words.empty() ||
+         Refuse("unexpected argument: ", line.words[0]);
+}
+
+bool ParseLimit(std::string_view text, PermissionChange* change) {
+  change->is_limit = true;
+  change->limit_kb = kUnlimited;
+  if (text != "unlimited") {
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, change->limit_kb);
+    if (result.ec != std::errc() || result.ptr != end) return false;
+    if (!std::isfinite(change->limit_kb) || std::signbit(change->limit_kb)) {
+      return false;
+    }
+  }
+  change->state = StateOfLimit(change->limit_kb);
+  return true;
+}
+
+}  // namespace
+
+bool CommandLine::Has(Option option) const {
+  return std::ranges::count(options, option, &GivenOption::option) > 0;
+}
+
+std::vector<const char*> CommandLine::ArgumentsOf(Option option) const {
+  std::vector<const char*> arguments;
+  for (const GivenOption& given : options) {
+    if (given.option == option) arguments.push_back(given.argument);
+  }
+  return arguments;
+}
+
+ExitStatus PrintUsageError(std::string_view message,
+                           std::string_view argument) {
+  std::fprintf(stderr, "%s: %s%s\n", kProgramName, std::string(message).c_str(),
+               Printable(argument).c_str());
+  std::fprintf(stderr, "Try '%s --help'.\n", kProgramName);
+  return kUsageError;
+}
+
+bool ParseCommandLine(std::span<char*> arguments, CommandLine* line) {
+  if (!SplitArguments(arguments, line)) return false;
+  if (line->Has(kHelp) || line->Has(kVersion)) return true;
+  return TakeCommand(line) && CheckArguments(*line);
+}
+
+bool ParsePermission(std::string_view text, Limits limits,
+                     PermissionChange* change) {
+  const std::size_t equals = text.find('=');
+  if (equals == text.npos) return false;
+  const std::string_view word = text.substr(equals + 1);
+  change->permission = FindWord(kPermissions, text.substr(0, equals));
+  if (!change->permission) return false;
+  if (const auto* choice = FindWord(kPermissionChoices, word)) {
+    change->state = choice->state;
     return true;
   }
-  return ParseCommand(arguments.subspan(static_cast<std::size_t>(optind)),
-                      option_letters, command);
+  return limits == Limits::kAllowed && change->permission->limit_key &&
+         ParseLimit(word, change);
 }
 
 void PrintHelp(std::FILE* output) {
   constexpr int kColumn = 30;
   std::fprintf(output,
                "Usage: %s COMMAND [OPTION...] [ARGUMENT...]\n"
-               "Show the settings of Corvane Player without changing them.\n\n"
+               "Show and change the settings of Corvane Player.\n\n"
                "Commands:\n",
                kProgramName);
-  for (const CommandRow& row : kCommands) {
-    const std::string words = std::string(row.word) + " " + row.arguments;
-    std::fprintf(output, "  %-*s%s\n", kColumn, words.c_str(), row.help);
+  for (const Command& command : kCommands) {
+    const std::string words =
+        std::string(command.word) + " " + command.arguments;
+    std::fprintf(output, "  %-*s%s\n", kColumn, words.c_str(), command.help);
   }
   std::fputs("\nOptions:\n", output);
   for (const OptionRow& row : kOptions) {
-    std::string words = {'-', row.letter, ',', ' ', '-', '-'};
-    words += row.name;
+    std::string words = row.is_short ? std::string{'-', row.option} + ", " : "";
+    words += std::string("--") + row.name;
     if (row.argument) words += std::string("=") + row.argument;
-    std::fprintf(output, "  %-*s%s\n", kColumn, words.c_str(), row.help);
+    const std::string commands = CommandsWith(row.option);
+    std::fprintf(output, "  %-*s%s%s%s\n", kColumn, words.c_str(),
+                 commands.c_str(), commands.empty() ? "" : ": ", row.help);
   }
   std::fprintf(output, "\nKIND is %s; STATE is %s.\n",
                Alternatives(kPermissions).c_str(),
                Alternatives(kPermissionChoices).c_str());
   std::fputs(
       "Exit status: 0 on success, 1 if something is damaged, unknown or "
-      "cannot be read,\n2 if the command line is wrong.\n",
+      "cannot be done,\n2 if the command line is wrong.\n",
       output);
 }
 

@@ -3,33 +3,96 @@
 
 #include <cstdio>
 #include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/permissions.h"
 
 inline constexpr char kProgramName[] = "corvane-player-settings";
 
-// A condition on the sites to show.
-struct PermissionFilter {
-  PermissionKind permission;
-  PermissionState state;
+enum ExitStatus { kSuccess = 0, kFailure = 1, kUsageError = 2 };
+
+// Each is the letter of its short form, if it has one.
+enum Option : char {
+  kJson = 'j',
+  kPermission = 'p',
+  kNames = 'N',
+  kNull = '0',
+  kSite = 's',
+  kGlobal = 'g',
+  kRelist = 'r',
+  kOutput = 'o',
+  kReplace = 'R',
+  kDeleteData = 'D',
+  kDryRun = 'n',
+  kAdd = 'a',
+  kAllSites = 'A',
+  kKeepData = 'k',
+  kKeep = 'K',
+  kOlderThan = 'O',
+  kHelp = 'h',
+  kVersion = 'V',
 };
 
+struct CommandLine;
+
+struct Command {
+  const char* word;
+  const char* arguments;
+  const char* help;
+  // Besides --help and --version.
+  std::string_view options;
+  // Also opens the files of settings for writing, unless --dry-run is given.
+  bool changes_settings;
+  // Names the words that follow, of which there must be at least one; null
+  // when there may be none.
+  const char* needed_word;
+  bool takes_words;
+  ExitStatus (*run)(const CommandLine& line);
+};
+
+// What the user typed; borrowed from the program's arguments.
 struct CommandLine {
-  enum class Action { kShow, kInspect, kVersion, kProgramVersion, kHelp };
+  struct GivenOption {
+    Option option;
+    const char* argument;
+  };
 
-  Action action = Action::kHelp;
-  bool json = false;
-  // A site is shown only if it meets all of them.
-  std::vector<PermissionFilter> filters;
-  // Sites or files, borrowed from the program's arguments.
-  std::span<char* const> names;
+  // Null when one of the options is --help or --version.
+  const Command* command = nullptr;
+  std::vector<GivenOption> options;
+  // Those that follow the command's word.
+  std::vector<const char*> words;
+  // How many of these are before a "--".
+  std::size_t words_before_dashes = 0;
+
+  [[nodiscard]] bool Has(Option option) const;
+  // The arguments of all its occurrences.
+  [[nodiscard]] std::vector<const char*> ArgumentsOf(Option option) const;
 };
 
-// `arguments` begin with the program's name; they are reordered. When they are
-// wrong, prints why and returns false.
+// When the arguments, the first of which is the program's name, are wrong,
+// prints why and returns false.
 [[nodiscard]] bool ParseCommandLine(std::span<char*> arguments,
-                                    CommandLine* command);
+                                    CommandLine* line);
+
+// Prints the message, with the argument made printable, and where help is.
+ExitStatus PrintUsageError(std::string_view message,
+                           std::string_view argument = "");
+
+// A permission and a state or, for storage, perhaps a limit.
+struct PermissionChange {
+  const Permission* permission = nullptr;
+  PermissionState state = kPermissionStateNone;
+  // The limit that was given as a number or as "unlimited".
+  bool is_limit = false;
+  double limit_kb = 0;
+};
+enum class Limits { kAllowed, kRefused };
+// KIND=STATE. False when it is none, or a limit that is refused.
+[[nodiscard]] bool ParsePermission(std::string_view text, Limits limits,
+                                   PermissionChange* change);
 
 void PrintHelp(std::FILE* output);
 void PrintProgramVersion(std::FILE* output);

@@ -1,17 +1,17 @@
 #include "cli/error_messages.h"
 
-#include <cinttypes>
 #include <cstdio>
 
 #include "cli/command_line.h"
 #include "strings/printable_text.h"
 
-void PrintError(const char* name, const char* message) {
-  std::fprintf(stderr, "%s: %s: %s\n", kProgramName, Printable(name).c_str(),
-               message);
+void PrintError(std::string_view name, std::string_view message) {
+  std::fprintf(stderr, "%s: %s: %.*s\n", kProgramName, Printable(name).c_str(),
+               static_cast<int>(message.size()), message.data());
 }
 
-void PrintDamage(const char* file, const char* message, std::uint64_t offset) {
-  std::fprintf(stderr, "%s: %s: byte %" PRIu64 ": %s\n", kProgramName,
-               Printable(file).c_str(), offset, message);
+void PrintProblem(const char* file, const FileProblem& problem) {
+  const std::string where =
+      problem.offset ? "byte " + std::to_string(*problem.offset) + ": " : "";
+  PrintError(file, where + problem.text);
 }

@@ -1,9 +1,12 @@
 // Messages on standard error.
 #pragma once
 
-#include <cstdint>
+#include <string_view>
 
-// "PROGRAM: NAME: MESSAGE", where the name is that of a file or a site.
-void PrintError(const char* name, const char* message);
-// "PROGRAM: FILE: byte OFFSET: MESSAGE".
-void PrintDamage(const char* file, const char* message, std::uint64_t offset);
+#include "cli/settings_source.h"
+
+// "PROGRAM: NAME: MESSAGE", where the name is that of a file or a site. The
+// message is printed as it is.
+void PrintError(std::string_view name, std::string_view message);
+// "PROGRAM: FILE: byte OFFSET: TEXT", without the offset if there is none.
+void PrintProblem(const char* file, const FileProblem& problem);

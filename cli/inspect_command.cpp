@@ -1,18 +1,19 @@
-#include <cerrno>
 #include <cinttypes>
 #include <cstdio>
-#include <cstring>
 #include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "cli/commands.h"
 #include "cli/error_messages.h"
-#include "cli/json_writer.h"
+#include "cli/json.h"
 #include "cli/plain_text.h"
 #include "cli/settings_source.h"
+#include "platform/linux_file_manager.h"
 #include "settings/settings_reader.h"
+#include "store/store_layout.h"
 #include "strings/printable_text.h"
 
 using SASM::SettingDataItem;
@@ -43,6 +44,8 @@ class Listing {
   // has no text when there was none.
   virtual void EndFile(const SettingsReader::Fault& damage,
                        bool is_rejected) = 0;
+  // In the place of the other calls for a file that cannot be read.
+  virtual void FailFile(const std::string& error) = 0;
 };
 
 class TextListing : public Listing {
@@ -65,6 +68,7 @@ class TextListing : public Listing {
   void EndFile(const SettingsReader::Fault& damage, bool is_rejected) override {
     if (is_rejected) PrintFault(damage);
   }
+  void FailFile(const std::string&) override {}
 
  private:
   static std::string ValueText(const SettingDataItem& item) {
@@ -93,79 +97,103 @@ class TextListing : public Listing {
   }
 };
 
+// Prints entry by entry, so that memory does not grow with the file.
 class JsonListing : public Listing {
  public:
-  JsonListing() { json_.BeginArray(); }
-  ~JsonListing() override {
-    json_.EndArray();
-    JsonWriter::EndLine();
-  }
+  JsonListing() { std::putchar('['); }
+  ~JsonListing() override { std::puts("]"); }
   JsonListing(const JsonListing&) = delete;
   JsonListing& operator=(const JsonListing&) = delete;
 
   void BeginFile(const char* path) override {
-    json_.BeginObject();
-    json_.Key("file").Text(path);
+    std::fputs(std::exchange(separator_, ",{"), stdout);
+    PrintMember("file", NewShownText(path));
   }
   void Name(const char* name) override {
-    json_.Key("name").Text(name);
-    json_.Key("entries").BeginArray();
+    std::putchar(',');
+    PrintMember("name", NewShownText(name));
+    std::fputs(",\"entries\":[", stdout);
     has_entries_ = true;
+    entry_separator_ = "";
   }
   void Entry(const SettingDataItem& entry, std::uint64_t offset,
              const SettingsReader::Fault& fault) override {
-    json_.BeginObject();
-    json_.Key("offset").Integer(offset);
-    WriteItem("key", entry);
-    if (fault.what) WriteFault(fault);
-    json_.EndObject();
+    const Json object(json_object());
+    Set(object.get(), "offset", json_integer(static_cast<json_int_t>(offset)));
+    SetItem("key", entry, object.get());
+    if (fault.what) Set(object.get(), "damage", NewFault(fault));
+    std::fputs(std::exchange(entry_separator_, ","), stdout);
+    PrintJson(object.get(), JSON_COMPACT, stdout);
   }
   void EndFile(const SettingsReader::Fault& damage, bool) override {
-    if (std::exchange(has_entries_, false)) json_.EndArray();
-    if (damage.what) WriteFault(damage);
-    json_.EndObject();
+    EndEntries();
+    if (damage.what) {
+      std::putchar(',');
+      PrintMember("damage", NewFault(damage));
+    }
+    std::putchar('}');
+  }
+  void FailFile(const std::string& error) override {
+    std::putchar(',');
+    PrintMember("error", NewShownText(error));
+    std::putchar('}');
   }
 
  private:
-  void WriteItem(const char* name_key, const SettingDataItem& item) {
-    json_.Key(name_key).Text(item.name.c_str());
-    json_.Key("type").Text(TypeWord(item));
-    const auto type = static_cast<unsigned int>(item.type);
-    if (type < std::size(kTypeWords)) WriteValue(item);
+  // Without the brackets around it. Takes over `value`.
+  static void PrintMember(const char* key, json_t* value) {
+    const Json object(json_object());
+    Set(object.get(), key, value);
+    PrintJson(object.get(), JSON_COMPACT | JSON_EMBED, stdout);
   }
 
-  void WriteValue(const SettingDataItem& item) {
-    json_.Key("value");
-    if (const SASM::SDIVector* elements = SASM::ArrayOrNull(&item)) {
-      return WriteElements(*elements);
-    }
-    if (item.type == SASM::kSettingsDataTypeString) {
-      json_.Text(item.value.string->c_str());
-    } else if (item.type == SASM::kSettingsDataTypeBool) {
-      json_.Boolean(item.value.boolean);
-    } else {
-      json_.Number(item.value.number);
-    }
+  void EndEntries() {
+    if (std::exchange(has_entries_, false)) std::putchar(']');
   }
 
-  void WriteElements(const SASM::SDIVector& elements) {
-    json_.BeginArray();
+  static void SetItem(const char* name_key, const SettingDataItem& item,
+                      json_t* object) {
+    Set(object, name_key, NewShownText(item.name.c_str()));
+    Set(object, "type", json_string(TypeWord(item)));
+    if (json_t* value = NewValue(item)) Set(object, "value", value);
+  }
+
+  // Null for an unknown type.
+  static json_t* NewValue(const SettingDataItem& item) {
+    switch (item.type) {
+      case SASM::kSettingsDataTypeDouble: {
+        const char* word = WordOfNumber(item.value.number);
+        return word ? json_string(word) : NewNumber(item.value.number);
+      }
+      case SASM::kSettingsDataTypeBool:
+        return json_boolean(item.value.boolean);
+      case SASM::kSettingsDataTypeString:
+        return NewShownText(item.value.string->c_str());
+      case SASM::kSettingsDataTypeArray:
+        return NewElements(*item.value.array);
+    }
+    return nullptr;
+  }
+
+  static json_t* NewElements(const SASM::SDIVector& elements) {
+    json_t* array = json_array();
     for (unsigned int i = 0; i < elements.count; ++i) {
-      json_.BeginObject();
-      WriteItem("name", *elements.At(i));
-      json_.EndObject();
+      json_t* object = json_object();
+      SetItem("name", *elements.At(i), object);
+      json_array_append_new(array, object);
     }
-    json_.EndArray();
+    return array;
   }
 
-  void WriteFault(const SettingsReader::Fault& fault) {
-    json_.Key("damage").BeginObject();
-    json_.Key("what").Text(fault.what);
-    json_.Key("offset").Integer(fault.offset);
-    json_.EndObject();
+  static json_t* NewFault(const SettingsReader::Fault& fault) {
+    json_t* object = json_object();
+    Set(object, "what", json_string(fault.what));
+    Set(object, "offset", json_integer(static_cast<json_int_t>(fault.offset)));
+    return object;
   }
 
-  JsonWriter json_;
+  const char* separator_ = "{";
+  const char* entry_separator_ = "";
   bool has_entries_ = false;
 };
 
@@ -217,36 +245,69 @@ class Inspection {
 // False when the file is damaged or cannot be read.
 bool InspectFile(const char* path, Listing* listing) {
   SASM::FileImage image;
-  const ReadResult result = ReadImage(path, &image);
-  if (result == ReadResult::kMissing) PrintError(path, std::strerror(errno));
+  FileProblem problem;
+  const ReadResult result = ReadImage(path, &image, &problem);
   listing->BeginFile(path);
   if (result != ReadResult::kDone) {
-    listing->EndFile({}, false);
+    PrintProblem(path, problem);
+    listing->FailFile(problem.text);
     return false;
   }
   Inspection inspection(image, listing);
   inspection.Run();
   const SettingsReader::Fault& damage = inspection.Damage();
   listing->EndFile(damage, inspection.IsRejected());
-  if (damage.what) PrintDamage(path, damage.what, damage.offset);
+  if (damage.what) PrintProblem(path, {damage.what, damage.offset});
   return !damage.what;
 }
 
-bool InspectFiles(const CommandLine& command, Listing* listing) {
+bool InspectFiles(const std::vector<SimpleString>& files, Listing* listing) {
   bool all_intact = true;
-  for (const char* path : command.names) {
-    all_intact = InspectFile(path, listing) && all_intact;
+  for (const SimpleString& path : files) {
+    all_intact = InspectFile(path.c_str(), listing) && all_intact;
   }
   return all_intact;
 }
 
+// The words are files or, behind --site, sites. False when one can be no site.
+bool FindFiles(const CommandLine& line, std::vector<SimpleString>* paths) {
+  if (!line.Has(kSite) && !line.Has(kGlobal)) {
+    paths->assign(line.words.begin(), line.words.end());
+    return true;
+  }
+  const LinuxFileManager files;
+  const SASM::StoreLayout layout(&files);
+  std::vector<SimpleString> domains;
+  if (line.Has(kGlobal)) domains.push_back(SASM::MasterDomainName());
+  for (const char* site : line.ArgumentsOf(kSite)) domains.emplace_back(site);
+  for (const char* site : line.words) domains.emplace_back(site);
+  bool found_all = true;
+  for (const SimpleString& domain : domains) {
+    paths->push_back(layout.SettingsFileOf(domain));
+    if (!paths->back().IsEmpty()) continue;
+    PrintError(domain.c_str(), "no such site");
+    paths->pop_back();
+    found_all = false;
+  }
+  return found_all;
+}
+
 }  // namespace
 
-bool RunInspect(const CommandLine& command) {
-  if (command.json) {
-    JsonListing listing;
-    return InspectFiles(command, &listing);
+ExitStatus RunInspect(const CommandLine& line) {
+  if (line.Has(kGlobal) && !line.words.empty() && !line.Has(kSite)) {
+    return PrintUsageError("unexpected argument: ", line.words[0]);
   }
-  TextListing listing;
-  return InspectFiles(command, &listing);
+  if (line.words.empty() && line.options.size() == line.Has(kJson)) {
+    return PrintUsageError("a file is missing");
+  }
+  std::vector<SimpleString> files;
+  const bool found_all = FindFiles(line, &files);
+  std::unique_ptr<Listing> listing;
+  if (line.Has(kJson)) {
+    listing = std::make_unique<JsonListing>();
+  } else {
+    listing = std::make_unique<TextListing>();
+  }
+  return InspectFiles(files, listing.get()) && found_all ? kSuccess : kFailure;
 }

@@ -1,33 +1,23 @@
-// Shows settings and versions without changing anything.
+// Shows and changes settings on the command line.
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 
-#include "cli/commands.h"
+#include "cli/command_line.h"
 #include "cli/error_messages.h"
+#include "cli/json.h"
 #include "platform/process_setup.h"
 
 namespace {
 
-enum ExitStatus { kSuccess = 0, kFailure = 1, kUsageError = 2 };
-
-bool Run(const CommandLine& command) {
-  switch (command.action) {
-    case CommandLine::Action::kShow:
-      return RunShow(command);
-    case CommandLine::Action::kInspect:
-      return RunInspect(command);
-    case CommandLine::Action::kVersion:
-      RunVersion();
-      return true;
-    case CommandLine::Action::kProgramVersion:
-      PrintProgramVersion(stdout);
-      return true;
-    case CommandLine::Action::kHelp:
-      PrintHelp(stdout);
-      return true;
+ExitStatus Run(const CommandLine& line) {
+  if (line.command) return line.command->run(line);
+  if (line.Has(kHelp)) {
+    PrintHelp(stdout);
+  } else {
+    PrintProgramVersion(stdout);
   }
-  return false;
+  return kSuccess;
 }
 
 // Writes what is still buffered. Prints a message on failure.
@@ -42,9 +32,10 @@ bool CloseOutput() {
 
 int main(int argc, char* argv[]) {
   PrepareProcess();
-  CommandLine command;
+  PrepareJson();
+  CommandLine line;
   const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
-  if (!ParseCommandLine(arguments, &command)) return kUsageError;
-  const bool succeeded = Run(command);
-  return CloseOutput() && succeeded ? kSuccess : kFailure;
+  if (!ParseCommandLine(arguments, &line)) return kUsageError;
+  const ExitStatus status = Run(line);
+  return CloseOutput() || status != kSuccess ? status : kFailure;
 }

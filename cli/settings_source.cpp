@@ -3,27 +3,27 @@
 #include <cerrno>
 #include <cstring>
 
-#include "cli/error_messages.h"
 #include "settings/settings_reader.h"
 
 using SASM::FileImage;
 using SASM::SimpleString;
 using SMImplementation::SettingsReader;
 
-ReadResult ReadImage(const SimpleString& path, FileImage* image) {
+ReadResult ReadImage(const SimpleString& path, FileImage* image,
+                     FileProblem* problem) {
   errno = 0;
   if (SASM::ReadFileImage(path, image)) return ReadResult::kDone;
-  if (errno == ENOENT || errno == ENOTDIR) return ReadResult::kMissing;
-  PrintError(path.c_str(),
-             errno ? std::strerror(errno) : "not a settings file");
-  return ReadResult::kFailed;
+  problem->text = errno ? std::strerror(errno) : "not a settings file";
+  return errno == ENOENT || errno == ENOTDIR ? ReadResult::kMissing
+                                             : ReadResult::kFailed;
 }
 
 SettingsOnDisk ReadSettings(const SimpleString& path) {
   SettingsOnDisk settings;
   FileImage image;
-  const ReadResult result = ReadImage(path, &image);
+  const ReadResult result = ReadImage(path, &image, &settings.problem);
   settings.is_missing = result == ReadResult::kMissing;
+  if (settings.is_missing) settings.problem = {};
   if (result != ReadResult::kDone) return settings;
   SettingsReader reader(image.bytes.get(), image.size);
   reader.KeepQuiet();
@@ -31,7 +31,6 @@ SettingsOnDisk ReadSettings(const SimpleString& path) {
   settings.dictionary.reset(reader.GetNewSettingsData(&name));
   delete name;
   const SettingsReader::Fault fault = reader.TakeFault();
-  settings.is_intact = !fault.what;
-  if (fault.what) PrintDamage(path.c_str(), fault.what, fault.offset);
+  if (fault.what) settings.problem = {fault.what, fault.offset};
   return settings;
 }

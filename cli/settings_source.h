@@ -1,22 +1,38 @@
-// Settings files, opened for reading only. Damage and failures are reported on
-// standard error.
+// Settings files, opened for reading only.
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "store/settings_file.h"
 
-// kMissing is not reported.
+// What is wrong with a file. Has no text when nothing is.
+struct FileProblem {
+  std::string text;
+  // Where, if it is about some byte of the file.
+  std::optional<std::uint64_t> offset;
+
+  [[nodiscard]] bool Exists() const { return !text.empty(); }
+};
+
 enum class ReadResult { kDone, kMissing, kFailed };
+// `*problem` is set unless the result is kDone.
 [[nodiscard]] ReadResult ReadImage(const SASM::SimpleString& path,
-                                   SASM::FileImage* image);
+                                   SASM::FileImage* image,
+                                   FileProblem* problem);
 
 struct SettingsOnDisk {
   // Null when the file cannot be read as settings.
   std::unique_ptr<SASM::SettingsDictionary> dictionary;
   bool is_missing = false;
-  // False for a file that is missing, unreadable or damaged, even if a part of
-  // it could be read.
-  bool is_intact = false;
+  // Of a file that is unreadable or damaged, even if a part of it could be
+  // read. None of a missing file.
+  FileProblem problem;
+
+  [[nodiscard]] bool IsIntact() const {
+    return !is_missing && !problem.Exists();
+  }
 };
 [[nodiscard]] SettingsOnDisk ReadSettings(const SASM::SimpleString& path);

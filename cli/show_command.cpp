@@ -5,11 +5,13 @@
 
 #include "cli/commands.h"
 #include "cli/error_messages.h"
-#include "cli/json_writer.h"
+#include "cli/json.h"
+#include "cli/near_names.h"
 #include "cli/plain_text.h"
 #include "cli/store_view.h"
 #include "model/storage_setting.h"
 #include "platform/linux_file_manager.h"
+#include "platform/tree_size.h"
 #include "strings/printable_text.h"
 #include "strings/string_manager.h"
 
@@ -58,22 +60,29 @@ void PrintGlobal(const PermissionSettings& global, StringManager* strings) {
   table.Print();
 }
 
-void PrintSites(const std::vector<SiteSettings>& sites,
-                StringManager* strings) {
-  TextTable table;
-  TextTable::Row head = {TextOf(strings, kWebsiteTitle),
-                         TextOf(strings, kStorageUsedTitle)};
+TextTable::Row HeadOfSites(const std::string& title, StringManager* strings) {
+  TextTable::Row head = {title, TextOf(strings, kStorageUsedTitle)};
   for (const Permission& permission : kPermissions) {
     head.push_back(TextOf(strings, permission.site_title_id));
   }
-  table.Add(std::move(head));
+  return head;
+}
+
+TextTable::Row RowOfSite(const SiteSettings& site, StringManager* strings) {
+  TextTable::Row row = {"  " + Printable(site.name),
+                        UsedText(site.storage_used_bytes)};
+  for (const Permission& permission : kPermissions) {
+    row.push_back(StateText(site.permissions, permission.kind, strings));
+  }
+  return row;
+}
+
+void PrintSites(const std::vector<SiteSettings>& sites, bool are_listed,
+                const std::string& title, StringManager* strings) {
+  TextTable table;
+  table.Add(HeadOfSites(title, strings));
   for (const SiteSettings& site : sites) {
-    TextTable::Row row = {"  " + Printable(site.name),
-                          UsedText(site.storage_used_bytes)};
-    for (const Permission& permission : kPermissions) {
-      row.push_back(StateText(site.permissions, permission.kind, strings));
-    }
-    table.Add(std::move(row));
+    if (site.is_listed == are_listed) table.Add(RowOfSite(site, strings));
   }
   std::putchar('\n');
   table.Print();
@@ -86,94 +95,164 @@ void PrintLocations(const SDIVector* locations, StringManager* strings) {
   }
 }
 
-void WritePermissions(const PermissionSettings& settings, JsonWriter* json) {
+void SetPermissions(const PermissionSettings& settings, json_t* object) {
   for (const Permission& permission : kPermissions) {
     const PermissionState state = settings.states[permission.kind];
-    json->Key(permission.word).Text(FindChoice(state)->word);
+    Set(object, permission.word, json_string(FindChoice(state)->word));
   }
-  json->Key("storage_limit_kb").Number(settings.storage_limit_kb);
+  const double limit_kb = settings.storage_limit_kb;
+  const char* word = WordOfNumber(limit_kb);
+  Set(object, "storage_limit_kb",
+      word ? json_string(word) : NewNumber(limit_kb));
 }
 
-void WriteSite(const SiteSettings& site, JsonWriter* json) {
-  json->BeginObject();
-  json->Key("site").Text(site.name);
-  WritePermissions(site.permissions, json);
-  json->Key("storage_used_bytes").Integer(site.storage_used_bytes);
-  json->Key("damaged").Boolean(!site.is_intact);
-  json->EndObject();
+json_t* NewSite(const SiteSettings& site) {
+  json_t* object = json_object();
+  Set(object, "site", NewShownText(site.name));
+  SetPermissions(site.permissions, object);
+  Set(object, "storage_used_bytes",
+      json_integer(static_cast<json_int_t>(site.storage_used_bytes)));
+  Set(object, "damaged", json_boolean(!site.is_intact));
+  Set(object, "listed", json_boolean(site.is_listed));
+  return object;
 }
 
-void WriteStore(const StoreView& store,
-                const std::vector<SiteSettings>& sites) {
-  JsonWriter json;
-  json.BeginObject();
-  json.Key("global").BeginObject();
-  WritePermissions(store.Global(), &json);
-  json.Key("damaged").Boolean(!store.IsIntact());
-  json.EndObject();
-  json.Key("sites").BeginArray();
-  for (const SiteSettings& site : sites) WriteSite(site, &json);
-  json.EndArray();
-  json.Key("trusted_locations").BeginArray();
-  const SDIVector* locations = store.TrustedLocations();
+json_t* NewLocations(const SDIVector* locations) {
+  json_t* array = json_array();
   for (unsigned int i = 0; locations && i < locations->count; ++i) {
-    json.Text(locations->At(i)->name.c_str());
+    json_array_append_new(array, NewShownText(locations->At(i)->name.c_str()));
   }
-  json.EndArray();
-  json.EndObject();
-  JsonWriter::EndLine();
+  return array;
 }
 
-bool Passes(const SiteSettings& site, const CommandLine& command) {
-  return std::ranges::all_of(
-      command.filters, [&site](const PermissionFilter& filter) {
-        return site.permissions.states[filter.permission] == filter.state;
-      });
+void PrintStoreAsJson(const StoreView& store,
+                      const std::vector<SiteSettings>& shown) {
+  json_t* global = json_object();
+  SetPermissions(store.Global(), global);
+  Set(global, "damaged", json_boolean(!store.IsIntact()));
+  json_t* sites = json_array();
+  for (const SiteSettings& site : shown) {
+    json_array_append_new(sites, NewSite(site));
+  }
+  const Json document(json_object());
+  Set(document.get(), "global", global);
+  Set(document.get(), "sites", sites);
+  Set(document.get(), "trusted_locations",
+      NewLocations(store.TrustedLocations()));
+  PrintJson(document.get(), JSON_COMPACT, stdout);
+  std::putchar('\n');
 }
 
-// The sites that the panel would show and the user asked for. When one is
-// damaged or unknown, reports it and sets `*succeeded` to false.
-std::vector<SiteSettings> FindSites(const StoreView& store,
-                                    const CommandLine& command,
-                                    bool* succeeded) {
-  std::vector<SiteSettings> sites;
-  std::vector<bool> is_found(command.names.size());
-  const SDIVector* listed = store.ListedSites();
-  for (unsigned int i = 0; listed && i < listed->count; ++i) {
-    const SimpleString& name = listed->At(i)->name;
-    if (!store.HasSettings(name)) continue;
-    bool is_wanted = command.names.empty();
-    for (std::size_t k = 0; k < command.names.size(); ++k) {
-      if (!(name == command.names[k])) continue;
-      is_wanted = is_found[k] = true;
+bool HasUnlisted(const std::vector<SiteSettings>& sites) {
+  return !std::ranges::all_of(sites, &SiteSettings::is_listed);
+}
+
+void PrintStoreAsText(const StoreView& store,
+                      const std::vector<SiteSettings>& sites) {
+  StringManager strings;
+  PrintGlobal(store.Global(), &strings);
+  PrintSites(sites, true, TextOf(&strings, kWebsiteTitle), &strings);
+  if (HasUnlisted(sites)) PrintSites(sites, false, "Not listed", &strings);
+  PrintLocations(store.TrustedLocations(), &strings);
+}
+
+// What the user asked for.
+struct Selection {
+  // Sites; all when there are none.
+  std::vector<const char*> names;
+  std::vector<PermissionChange> filters;
+
+  [[nodiscard]] bool Includes(const std::string& site) const {
+    return names.empty() || std::ranges::count(names, site) > 0;
+  }
+  // A site must meet all conditions.
+  [[nodiscard]] bool Includes(const SiteSettings& site) const {
+    return std::ranges::all_of(filters, [&](const PermissionChange& filter) {
+      return site.permissions.states[filter.permission->kind] == filter.state;
+    });
+  }
+};
+
+bool ParseSelection(const CommandLine& line, Selection* selection) {
+  selection->names = line.words;
+  for (const char* text : line.ArgumentsOf(kPermission)) {
+    PermissionChange filter;
+    if (!ParsePermission(text, Limits::kRefused, &filter)) {
+      PrintUsageError("no such permission: ", text);
+      return false;
     }
-    if (!is_wanted) continue;
-    const SiteSettings site = store.Read(name);
-    *succeeded = *succeeded && site.is_intact;
-    if (Passes(site, command)) sites.push_back(site);
+    selection->filters.push_back(filter);
   }
-  for (std::size_t k = 0; k < command.names.size(); ++k) {
-    if (is_found[k]) continue;
-    PrintError(command.names[k], "no such site");
-    *succeeded = false;
+  return true;
+}
+
+// Reports the names that are those of no site. How many there are.
+std::size_t ReportUnknown(const Selection& selection,
+                          const std::vector<std::string>& sites) {
+  std::size_t count = 0;
+  for (const char* name : selection.names) {
+    if (std::ranges::count(sites, name) > 0) continue;
+    PrintError(name, "no such site" + SuggestSites(name, sites));
+    ++count;
+  }
+  return count;
+}
+
+// The sites of the selection. When one is damaged, reports it and sets
+// `*succeeded` to false.
+std::vector<SiteSettings> ReadSites(const StoreView& store,
+                                    const std::vector<std::string>& names,
+                                    const Selection& selection,
+                                    bool* succeeded) {
+  const SharedMeasurement measurement;
+  std::vector<SiteSettings> sites;
+  for (const std::string& name : names) {
+    if (!selection.Includes(name)) continue;
+    SiteSettings site = store.Read(name);
+    *succeeded = *succeeded && site.is_intact;
+    if (selection.Includes(site)) sites.push_back(std::move(site));
   }
   return sites;
 }
 
+bool CheckNames(const CommandLine& line) {
+  if (line.Has(kNames)) {
+    const bool is_alone =
+        line.words.empty() && !line.Has(kJson) && !line.Has(kPermission);
+    if (!is_alone) PrintUsageError("--names takes nothing but --null");
+    return is_alone;
+  }
+  if (line.Has(kNull)) PrintUsageError("--null is for --names");
+  return !line.Has(kNull);
+}
+
+ExitStatus PrintNames(const StoreView& store, const CommandLine& line) {
+  for (const std::string& site : store.SitesWithSettings()) {
+    if (!store.IsListed(site)) continue;
+    const bool is_raw = line.Has(kNull);
+    const std::string text = is_raw ? site : Printable(site);
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    std::putchar(is_raw ? '\0' : '\n');
+  }
+  return store.IsIntact() ? kSuccess : kFailure;
+}
+
 }  // namespace
 
-bool RunShow(const CommandLine& command) {
+ExitStatus RunShow(const CommandLine& line) {
+  Selection selection;
+  if (!ParseSelection(line, &selection)) return kUsageError;
+  if (!CheckNames(line)) return kUsageError;
   const LinuxFileManager files;
   const StoreView store(files);
-  bool succeeded = store.IsIntact();
-  const std::vector<SiteSettings> sites = FindSites(store, command, &succeeded);
-  if (command.json) {
-    WriteStore(store, sites);
-    return succeeded;
-  }
-  StringManager strings;
-  PrintGlobal(store.Global(), &strings);
-  PrintSites(sites, &strings);
-  PrintLocations(store.TrustedLocations(), &strings);
-  return succeeded;
+  bool succeeded = store.ReportProblem();
+  if (line.Has(kNames)) return PrintNames(store, line);
+  const std::vector<std::string> names = store.SitesWithSettings();
+  const std::size_t unknown = ReportUnknown(selection, names);
+  if (unknown > 0 && unknown == selection.names.size()) return kFailure;
+  const std::vector<SiteSettings> sites =
+      ReadSites(store, names, selection, &succeeded);
+  line.Has(kJson) ? PrintStoreAsJson(store, sites)
+                  : PrintStoreAsText(store, sites);
+  return succeeded && unknown == 0 ? kSuccess : kFailure;
 }

@@ -3,6 +3,10 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
 
 #include "cli/settings_source.h"
 #include "model/permissions.h"
@@ -16,38 +20,65 @@ struct PermissionSettings {
 };
 
 struct SiteSettings {
-  // Borrowed from the list of sites.
-  const char* name = nullptr;
+  std::string name;
+  bool is_listed = false;
   PermissionSettings permissions;
   std::uint64_t storage_used_bytes = 0;
   bool is_intact = false;
 };
 
 // Reads the master settings once, and the settings of a site on request.
-// Defaults that the panel would write to disk are added in memory. Damaged and
-// unreadable files are reported on standard error.
+// Defaults that the panel would write to disk are added in memory. Prints
+// nothing.
 class StoreView {
  public:
   // The file manager is borrowed and must outlive this object.
   explicit StoreView(const SASM::FileManager& files);
 
-  // False when the user has no home directory, or when the file of the master
-  // settings exists and is damaged or unreadable.
-  [[nodiscard]] bool IsIntact() const { return is_intact_; }
+  [[nodiscard]] const SASM::StoreLayout& Layout() const { return layout_; }
 
+  // What is wrong with the file of the master settings. A user without a home
+  // directory has none, of which the file manager has told.
+  [[nodiscard]] const FileProblem& MasterProblem() const { return problem_; }
+  [[nodiscard]] bool IsIntact() const {
+    return layout_.IsOnDisk() && !problem_.Exists();
+  }
+  // Prints what is wrong with the file. True when nothing is.
+  [[nodiscard]] bool ReportProblem() const;
+
+  [[nodiscard]] const SASM::SettingsDictionary& Master() const {
+    return *master_;
+  }
   [[nodiscard]] PermissionSettings Global() const;
   // Lists whose elements are named by a path or a site. Borrowed; null when
   // nothing is stored.
   [[nodiscard]] const SASM::SDIVector* TrustedLocations() const;
   [[nodiscard]] const SASM::SDIVector* ListedSites() const;
 
+  [[nodiscard]] bool IsListed(std::string_view site) const {
+    return listed_.contains(std::string(site));
+  }
+  // More than 1 for a name that is listed again.
+  [[nodiscard]] std::size_t CountInList(std::string_view site) const {
+    return listed_.count(std::string(site));
+  }
   // The panel shows only listed sites that have settings.
   [[nodiscard]] bool HasSettings(const SASM::SimpleString& site) const;
-  [[nodiscard]] SiteSettings Read(const SASM::SimpleString& site) const;
+  [[nodiscard]] bool IsKnown(const SASM::SimpleString& site) const {
+    return IsListed(site.c_str()) || HasSettings(site);
+  }
+  // The sites that have settings: those that are listed in the order of the
+  // list, then the others by name.
+  [[nodiscard]] std::vector<std::string> SitesWithSettings() const;
+  // These, and the listed names without settings. By name, each once.
+  [[nodiscard]] std::vector<std::string> KnownSites() const;
+  // Prints what is wrong with the file.
+  [[nodiscard]] SiteSettings Read(const std::string& site) const;
 
  private:
   const SASM::FileManager& files_;
   SASM::StoreLayout layout_;
   std::unique_ptr<SASM::SettingsDictionary> master_;
-  bool is_intact_ = false;
+  FileProblem problem_;
+  std::unordered_multiset<std::string> listed_;
 };

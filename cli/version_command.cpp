@@ -23,7 +23,7 @@ int TextOf(PluginState state) {
 
 }  // namespace
 
-void RunVersion() {
+ExitStatus RunVersion(const CommandLine&) {
   PrintProgramVersion(stdout);
   const char* version = nullptr;
   const PluginState state = FindPluginVersion(&version);
@@ -32,4 +32,5 @@ void RunVersion() {
   std::string text = found ? found : "";
   if (version) text = FillPlaceholder(text, Printable(version));
   std::puts(text.c_str());
+  return kSuccess;
 }

@@ -8,6 +8,7 @@ build_packages=(
   cmake
   g++
   libgtk2.0-dev
+  libjansson-dev
   libunistring-dev
   ninja-build
   pkg-config

@@ -1,0 +1,96 @@
+#include <string_view>
+
+#include "cli/changes.h"
+#include "cli/commands.h"
+#include "cli/findings.h"
+#include "cli/json.h"
+#include "platform/linux_file_manager.h"
+#include "strings/printable_text.h"
+
+using SASM::SettingsManager;
+using SASM::SimpleString;
+
+namespace {
+
+void PrintAsText(const std::vector<Finding>& findings) {
+  for (const Finding& finding : findings) {
+    std::printf("%s: %s: %s\n", Printable(finding.subject).c_str(),
+                finding.kind, finding.detail.c_str());
+  }
+}
+
+void PrintAsJson(const std::vector<Finding>& findings) {
+  json_t* array = json_array();
+  for (const Finding& finding : findings) {
+    const bool is_site = finding.about == Finding::About::kSite;
+    json_t* object = json_object();
+    Set(object, "kind", json_string(finding.kind));
+    Set(object, is_site ? "site" : "path", NewText(finding.subject));
+    Set(object, "detail", NewText(finding.detail));
+    json_array_append_new(array, object);
+  }
+  const Json document(json_object());
+  Set(document.get(), "findings", array);
+  PrintJson(document.get(), JSON_COMPACT, stdout);
+  std::putchar('\n');
+}
+
+bool IsUnlistedSite(const Finding& finding) {
+  return finding.kind == std::string_view(kUnlistedSettings);
+}
+
+// Lists the sites again that are not listed.
+Changes Relisting(const StoreView& store,
+                  const std::vector<Finding>& findings) {
+  Changes changes;
+  if (store.MasterProblem().Exists()) {
+    // Opening the store has put them there.
+    changes.Add({"all sites",
+                 {"all sites: defaults again"},
+                 [](SettingsManager& manager) {
+                   return manager.SynchronizeSettingsForDomain(
+                       SettingsManager::MasterDomain());
+                 }});
+  }
+  for (const Finding& finding : findings) {
+    if (!IsUnlistedSite(finding)) continue;
+    const SimpleString site = finding.subject.c_str();
+    changes.Add({finding.subject,
+                 {Printable(finding.subject) + ": added"},
+                 [site](SettingsManager& manager) {
+                   return manager.AddDomainWithDefaultSettings(site);
+                 }});
+  }
+  return changes;
+}
+
+// What Relisting leaves.
+void EraseRelisted(const StoreView& store, std::vector<Finding>* findings) {
+  const SimpleString master =
+      store.Layout().SettingsFileOf(SASM::MasterDomainName());
+  std::erase_if(*findings, [&](const Finding& finding) {
+    return IsUnlistedSite(finding) ||
+           (finding.kind == std::string_view(kDamagedFile) &&
+            finding.subject == master.c_str());
+  });
+}
+
+}  // namespace
+
+ExitStatus RunDoctor(const CommandLine& line) {
+  if (line.Has(kDryRun) && !line.Has(kRelist)) {
+    return PrintUsageError("--dry-run is for --relist");
+  }
+  const LinuxFileManager files;
+  const StoreView store(files);
+  if (!store.Layout().IsOnDisk()) return kFailure;
+  std::vector<Finding> findings = FindFaults(store, files);
+  ExitStatus status = kSuccess;
+  if (line.Has(kRelist)) {
+    if (!OwnsHome(store)) return kFailure;
+    status = Relisting(store, findings).Finish(line);
+    EraseRelisted(store, &findings);
+  }
+  line.Has(kJson) ? PrintAsJson(findings) : PrintAsText(findings);
+  return findings.empty() ? status : kFailure;
+}

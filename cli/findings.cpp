@@ -1,0 +1,175 @@
+#include "cli/findings.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "cli/owner_search.h"
+#include "platform/home_directory.h"
+#include "store/stored_sites.h"
+#include "strings/printable_text.h"
+
+using SASM::SimpleString;
+
+namespace {
+
+using About = Finding::About;
+
+class FaultSearch {
+ public:
+  FaultSearch(const StoreView& store, const SASM::FileManager& files)
+      : store_(store),
+        files_(files),
+        layout_(store.Layout()),
+        with_file_(SASM::SitesWithSettingsFile(layout_)) {}
+
+  std::vector<Finding> Run() {
+    if (!layout_.IsOnDisk()) return {};
+    AddDamage(layout_.SettingsFileOf(SASM::MasterDomainName()),
+              store_.MasterProblem());
+    LookAtList();
+    for (const std::string& site : with_file_) LookAtSettings(site);
+    LookAtData();
+    for (const SimpleString& directory :
+         {layout_.BaseDirectory(), files_.GetAssetCacheDirectory(),
+          files_.GetDRMLicenseDataDirectory()}) {
+      LookAtOwners(directory.c_str());
+    }
+    return std::move(findings_);
+  }
+
+ private:
+  void AddSite(const char* kind, const std::string& site, std::string detail) {
+    findings_.push_back({kind, About::kSite, site, std::move(detail)});
+  }
+  void AddPath(const char* kind, const std::string& path, std::string detail) {
+    findings_.push_back({kind, About::kPath, path, std::move(detail)});
+  }
+
+  void AddDamage(const SimpleString& file, const FileProblem& problem) {
+    if (!problem.Exists()) return;
+    const std::string where =
+        problem.offset ? "byte " + std::to_string(*problem.offset) + ": " : "";
+    AddPath(kDamagedFile, file.c_str(), where + problem.text);
+  }
+
+  bool HasFile(const std::string& site) const {
+    return std::ranges::binary_search(with_file_, site);
+  }
+
+  void LookAtList() {
+    std::unordered_map<std::string, int> counts;
+    const SASM::SDIVector* listed = store_.ListedSites();
+    for (unsigned int i = 0; listed && i < listed->count; ++i) {
+      const std::string site = listed->At(i)->name.c_str();
+      const int count = ++counts[site];
+      if (count == 2) AddSite("duplicate-name", site, "is listed twice");
+      if (count > 1) continue;
+      LookAtName(site);
+      // Behind a link in the place of its directory it has one, too.
+      if (!HasFile(site) && !store_.HasSettings(site.c_str())) {
+        AddSite("missing-file", site, "is listed and has no settings file");
+      }
+    }
+  }
+
+  void LookAtSettings(const std::string& site) {
+    const SimpleString file = layout_.SettingsFileOf(site.c_str());
+    const SettingsOnDisk on_disk = ReadSettings(file);
+    AddDamage(file, on_disk.problem);
+    if (store_.IsListed(site)) return;
+    LookAtName(site);
+    if (on_disk.problem.Exists()) return;
+    AddSite(kUnlistedSettings, site, "has settings and is not listed");
+  }
+
+  void LookAtName(const std::string& site) {
+    if (const char* fault = FaultOfName(site)) {
+      AddSite("impossible-name", site, fault);
+    }
+  }
+
+  // Null for a name that a web site can have.
+  static const char* FaultOfName(const std::string& site) {
+    if (site.find("://") != site.npos || site.starts_with("http:") ||
+        site.starts_with("https:")) {
+      return "begins with a scheme and matches no site";
+    }
+    if (!SASM::IsSiteName(site.c_str())) return "can be no site";
+    if (site.find_first_of(" \t\n\r\f\v") != site.npos) {
+      return "has a blank and matches no site";
+    }
+    // Of all else that is visible only a backslash is escaped.
+    std::string visible = Printable(site);
+    for (std::size_t at = 0; (at = visible.find("\\\\", at)) != visible.npos;) {
+      visible.erase(at++, 1);
+    }
+    if (visible != site) return "has invisible characters and matches no site";
+    const bool has_capital =
+        std::ranges::any_of(site, [](char c) { return c >= 'A' && c <= 'Z'; });
+    return has_capital ? "has capital letters and matches no site" : nullptr;
+  }
+
+  std::vector<std::string> Listing(const SimpleString& directory) const {
+    const std::unique_ptr<SASM::StringVector> list(
+        files_.CreateNewListOfDirectoryContents(directory));
+    std::vector<std::string> names;
+    for (unsigned int i = 0; i < list->count; ++i) {
+      names.emplace_back(list->TextAt(i));
+    }
+    return names;
+  }
+
+  void LookAtData() {
+    const SimpleString root = layout_.LocalStorageRoot();
+    const std::vector<std::string> directories = Listing(root);
+    for (std::size_t i = 1; i < directories.size(); ++i) {
+      AddPath("further-directory",
+              layout_.Join(root, directories[i].c_str()).c_str(),
+              "is not the first one, the data of sites is elsewhere");
+    }
+    if (directories.empty()) return;
+    // Of "a/b" the data is below "a".
+    std::unordered_set<std::string> listed;
+    const SASM::SDIVector* sites = store_.ListedSites();
+    for (unsigned int i = 0; sites && i < sites->count; ++i) {
+      const std::string site = sites->At(i)->name.c_str();
+      listed.insert(site.substr(0, site.find('/')));
+    }
+    for (const std::string& site : Listing(layout_.LocalStorageDirectory())) {
+      if (listed.contains(site)) continue;
+      AddSite("unlisted-data", site, "has stored data and is not listed");
+    }
+  }
+
+  void LookAtOwners(const std::string& directory) {
+    struct stat home;
+    if (directory.empty()) return;
+    if (stat(ExpandHomeDirectory("~").c_str(), &home) != 0) return;
+    for (const OddEntry& entry : FindOddEntries(directory, home.st_uid)) {
+      if (entry.oddity == OddEntry::Oddity::kLink) {
+        AddPath("link", entry.path, "is a link in the place of a directory");
+        continue;
+      }
+      AddPath(
+          "foreign-owner", entry.path,
+          "belongs to the user with the number " + std::to_string(entry.owner));
+    }
+  }
+
+  const StoreView& store_;
+  const SASM::FileManager& files_;
+  const SASM::StoreLayout& layout_;
+  const std::vector<std::string> with_file_;
+  std::vector<Finding> findings_;
+};
+
+}  // namespace
+
+std::vector<Finding> FindFaults(const StoreView& store,
+                                const SASM::FileManager& files) {
+  return FaultSearch(store, files).Run();
+}

@@ -1,0 +1,16 @@
+#include "cli/commands.h"
+#include "cli/site_removal.h"
+#include "platform/linux_file_manager.h"
+
+ExitStatus RunRemove(const CommandLine& line) {
+  if (!AreSiteNames(line.words)) return kUsageError;
+  const LinuxFileManager files;
+  const StoreView store(files);
+  if (!MayChange(store)) return kFailure;
+  const Data data = line.Has(kKeepData) ? Data::kKept : Data::kDeleted;
+  Changes changes;
+  for (const char* site : WithoutRepetitions(line.words)) {
+    changes.Add(RemovalOfSite(site, data, store, files));
+  }
+  return changes.Finish(line);
+}

@@ -1,0 +1,200 @@
+#include <utility>
+
+#include "cli/changes.h"
+#include "cli/commands.h"
+#include "cli/error_messages.h"
+#include "cli/near_names.h"
+#include "cli/settings_edit.h"
+#include "cli/site_removal.h"
+#include "platform/linux_file_manager.h"
+#include "strings/printable_text.h"
+
+using SASM::SettingsManager;
+using SASM::SimpleString;
+
+namespace {
+
+// What the user asked for.
+struct Request {
+  std::vector<PermissionChange> permissions;
+  std::vector<const char*> sites;
+};
+
+bool ParseRequest(const CommandLine& line, Request* request) {
+  std::size_t i = 0;
+  for (; i < line.words_before_dashes; ++i) {
+    const std::string_view word = line.words[i];
+    if (word.find('=') == word.npos) break;
+    PermissionChange change;
+    if (!ParsePermission(word, Limits::kAllowed, &change)) {
+      PrintUsageError("no such permission: ", word);
+      return false;
+    }
+    for (const PermissionChange& other : request->permissions) {
+      if (other.permission != change.permission) continue;
+      PrintUsageError("a permission is given twice: ", word);
+      return false;
+    }
+    request->permissions.push_back(change);
+  }
+  request->sites.assign(line.words.begin() + static_cast<std::ptrdiff_t>(i),
+                        line.words.end());
+  return true;
+}
+
+// For all sites a switch offers two states only.
+bool OffersState(const PermissionChange& change) {
+  return change.permission->limit_key ||
+         change.state != kPermissionStateAlwaysAllow;
+}
+
+bool CheckRequest(const CommandLine& line, const Request& request) {
+  const auto refuse = [](const char* message, const char* argument = "") {
+    PrintUsageError(message, argument);
+    return false;
+  };
+  if (request.permissions.empty()) return refuse("a permission is missing");
+  if (!line.Has(kAllSites)) {
+    if (request.sites.empty()) return refuse("a site is missing");
+    return AreSiteNames(request.sites);
+  }
+  if (!request.sites.empty()) {
+    return refuse("--all-sites takes no site: ", request.sites[0]);
+  }
+  if (line.Has(kAdd)) return refuse("--add is not for --all-sites");
+  for (const PermissionChange& change : request.permissions) {
+    if (OffersState(change)) continue;
+    return refuse("for all sites this is asked or blocked: ",
+                  change.permission->word);
+  }
+  return true;
+}
+
+class SetCommand {
+ public:
+  explicit SetCommand(const CommandLine& line)
+      : line_(line), store_(files_), sites_(store_.SitesWithSettings()) {}
+
+  ExitStatus Run(const Request& request) {
+    if (!MayChange(store_)) return kFailure;
+    if (line_.Has(kAllSites)) {
+      for (const PermissionChange& change : request.permissions) {
+        SetForAllSites(change);
+      }
+    }
+    for (const char* site : WithoutRepetitions(request.sites)) {
+      SetForSite(site, request.permissions);
+    }
+    return Worse(changes_.Finish(line_), status_);
+  }
+
+ private:
+  // Leaves a state alone that is stored already.
+  static void Put(const PermissionChange& change,
+                  SASM::SettingsDictionary* site) {
+    const Permission& permission = *change.permission;
+    if (change.is_limit) {
+      if (StoredLimitKb(site) == change.limit_kb) return;
+      PutNumber(permission.limit_key, change.limit_kb, site);
+    } else if (StoredState(permission, site) != change.state) {
+      PutSiteState(permission, change.state, site);
+    }
+  }
+
+  static void PutGlobally(const PermissionChange& change,
+                          SASM::SettingsDictionary* master) {
+    const Permission& permission = *change.permission;
+    if (change.is_limit) {
+      if (GlobalLimitKb(master) == change.limit_kb) return;
+      PutNumber(permission.global_key, change.limit_kb, master);
+    } else if (GlobalState(permission, master) != change.state) {
+      PutGlobalState(permission, change.state, master);
+    }
+  }
+
+  void SetForAllSites(const PermissionChange& change) {
+    SettingsEdit edit(SASM::MasterDomainName(), &store_.Master());
+    PutGlobally(change, &edit.After());
+    changes_.Add(edit.ToChange());
+    if (change.is_limit || change.permission->switch_overrides_sites) return;
+    for (const std::string& site : sites_) {
+      if (store_.IsListed(site)) SetForKnownSite(site.c_str(), {change});
+    }
+  }
+
+  void SetForSite(const SimpleString& site,
+                  const std::vector<PermissionChange>& permissions) {
+    if (line_.Has(kAdd) && !store_.IsListed(site.c_str())) {
+      return AddSite(site, permissions);
+    }
+    if (store_.IsKnown(site)) return SetForKnownSite(site, permissions);
+    PrintError(site.c_str(), "no such site" +
+                                 SuggestSites(site.c_str(), sites_) +
+                                 "; --add adds it");
+    status_ = kFailure;
+  }
+
+  // Null when the file is damaged, which is reported: a change would lose
+  // what is left of it.
+  bool ReadSite(const SimpleString& site, SettingsOnDisk* on_disk) {
+    const SimpleString file = store_.Layout().SettingsFileOf(site);
+    *on_disk = ReadSettings(file);
+    if (!on_disk->problem.Exists()) return true;
+    PrintProblem(file.c_str(), on_disk->problem);
+    status_ = kFailure;
+    return false;
+  }
+
+  void AddSite(const SimpleString& site,
+               const std::vector<PermissionChange>& permissions) {
+    SettingsOnDisk on_disk;
+    if (!ReadSite(site, &on_disk)) return;
+    SettingsEdit edit(site, on_disk.dictionary.get());
+    edit.InsertDefaults(store_.Master());
+    for (const auto& change : permissions) Put(change, &edit.After());
+    Change change = edit.ToChange();
+    change.lines.insert(change.lines.begin(),
+                        Printable(site.c_str()) + ": added");
+    change.apply = [site, apply = change.apply](SettingsManager& manager) {
+      return manager.AddDomainWithDefaultSettings(site) && apply(manager);
+    };
+    changes_.Add(std::move(change));
+    DeleteDataOfBlocked(site, permissions);
+  }
+
+  void SetForKnownSite(const SimpleString& site,
+                       const std::vector<PermissionChange>& permissions) {
+    SettingsOnDisk on_disk;
+    if (!ReadSite(site, &on_disk)) return;
+    SettingsEdit edit(site, on_disk.dictionary.get());
+    for (const auto& change : permissions) Put(change, &edit.After());
+    changes_.Add(edit.ToChange());
+    DeleteDataOfBlocked(site, permissions);
+  }
+
+  void DeleteDataOfBlocked(const SimpleString& site,
+                           const std::vector<PermissionChange>& permissions) {
+    for (const PermissionChange& change : permissions) {
+      if (!change.permission->limit_key) continue;
+      if (change.state != kPermissionStateAlwaysDeny) continue;
+      changes_.Add(DeletionOfData(site, store_, files_));
+    }
+  }
+
+  const CommandLine& line_;
+  const LinuxFileManager files_;
+  const StoreView store_;
+  const std::vector<std::string> sites_;
+  Changes changes_;
+  ExitStatus status_ = kSuccess;
+};
+
+}  // namespace
+
+ExitStatus RunSet(const CommandLine& line) {
+  Request request;
+  if (!ParseRequest(line, &request) || !CheckRequest(line, request)) {
+    return kUsageError;
+  }
+  return SetCommand(line).Run(request);
+}

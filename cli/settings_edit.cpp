@@ -1,0 +1,193 @@
+#include "cli/settings_edit.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <utility>
+
+#include "cli/plain_text.h"
+#include "store/default_settings.h"
+#include "strings/printable_text.h"
+
+using SASM::SDIVector;
+using SASM::SettingDataItem;
+using SASM::SettingsDictionary;
+using SASM::SimpleString;
+
+namespace {
+
+constexpr char kUnset[] = "unset";
+constexpr char kArrow[] = " → ";
+constexpr std::size_t kLongestValue = 60;
+
+std::unique_ptr<SettingsDictionary> Copy(const SettingsDictionary* dictionary) {
+  auto copy = std::make_unique<SettingsDictionary>();
+  if (!dictionary) return copy;
+  for (const auto& entry : *dictionary) copy->insert(entry.key, entry.value);
+  return copy;
+}
+
+bool AreEqual(double a, double b) {
+  return (std::isnan(a) && std::isnan(b)) ||
+         std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+bool AreEqual(const SDIVector& a, const SDIVector& b) {
+  if (a.count != b.count) return false;
+  for (unsigned int i = 0; i < a.count; ++i) {
+    if (!(a.At(i)->name == b.At(i)->name)) return false;
+    if (!::AreEqual(*a.At(i), *b.At(i))) return false;
+  }
+  return true;
+}
+
+std::string ValueText(const SettingDataItem* item) {
+  if (!item) return kUnset;
+  switch (item->type) {
+    case SASM::kSettingsDataTypeDouble:
+      return Decimal(item->value.number);
+    case SASM::kSettingsDataTypeBool:
+      return item->value.boolean ? "true" : "false";
+    case SASM::kSettingsDataTypeString:
+      return '"' +
+             PrintableExcerpt(item->value.string->c_str(), kLongestValue) + '"';
+    case SASM::kSettingsDataTypeArray:
+      return "a list of " + std::to_string(item->value.array->count);
+  }
+  return "unknown";
+}
+
+// A word that the command line takes.
+std::string LimitWord(double limit_kb) {
+  for (const PermissionChoice& choice : kPermissionChoices) {
+    if (choice.limit_kb == limit_kb) return choice.word;
+  }
+  if (limit_kb == kUnlimited) return "unlimited";
+  return limit_kb > 0 ? Decimal(limit_kb)
+                      : FindChoice(StateOfLimit(limit_kb))->word;
+}
+
+}  // namespace
+
+bool AreEqual(const SettingDataItem& a, const SettingDataItem& b) {
+  if (a.type != b.type) return false;
+  switch (a.type) {
+    case SASM::kSettingsDataTypeDouble:
+      return AreEqual(a.value.number, b.value.number);
+    case SASM::kSettingsDataTypeBool:
+      return a.value.boolean == b.value.boolean;
+    case SASM::kSettingsDataTypeString:
+      return *a.value.string == *b.value.string;
+    case SASM::kSettingsDataTypeArray:
+      return AreEqual(*a.value.array, *b.value.array);
+  }
+  return true;
+}
+
+std::string SubjectOf(const SimpleString& domain) {
+  return domain == SASM::MasterDomainName() ? "all sites" : domain.c_str();
+}
+
+struct SettingsEdit::KeyChange {
+  SimpleString key;
+  std::optional<SettingDataItem> value;
+};
+
+SettingsEdit::SettingsEdit(SimpleString domain,
+                           const SettingsDictionary* before)
+    : domain_(std::move(domain)),
+      is_master_(domain_ == SASM::MasterDomainName()),
+      before_(Copy(before)),
+      after_(Copy(before)) {}
+
+void SettingsEdit::InsertDefaults(const SettingsDictionary& master) {
+  const auto rows = is_master_ ? SASM::DefaultMasterSettings()
+                               : SASM::DefaultDomainSettings();
+  SASM::InsertMissingDefaults(rows, master, before_.get());
+  SASM::InsertMissingDefaults(rows, master, after_.get());
+}
+
+std::vector<SettingsEdit::KeyChange> SettingsEdit::KeyChanges() const {
+  std::vector<KeyChange> changes;
+  for (const auto& entry : *after_) {
+    const SettingDataItem* old = SASM::FindSetting(entry.key, *before_);
+    if (old && ::AreEqual(*old, entry.value)) continue;
+    changes.push_back({entry.key, entry.value});
+  }
+  for (const auto& entry : *before_) {
+    if (SASM::FindSetting(entry.key, *after_)) continue;
+    changes.push_back({entry.key, std::nullopt});
+  }
+  // The order of a dictionary says nothing to a reader.
+  std::ranges::sort(changes, [](const KeyChange& a, const KeyChange& b) {
+    return std::strcmp(a.key.c_str(), b.key.c_str()) < 0;
+  });
+  return changes;
+}
+
+std::string SettingsEdit::Word(const Permission& permission,
+                               const SettingsDictionary& settings) const {
+  if (permission.limit_key) {
+    return LimitWord(is_master_ ? GlobalLimitKb(&settings)
+                                : StoredLimitKb(&settings));
+  }
+  const PermissionState state = is_master_ ? GlobalState(permission, &settings)
+                                           : StoredState(permission, &settings);
+  return FindChoice(state)->word;
+}
+
+void SettingsEdit::AddPermissionLine(const Permission& permission,
+                                     std::vector<std::string>* lines,
+                                     std::vector<std::string>* told) const {
+  const std::string before = Word(permission, *before_);
+  const std::string after = Word(permission, *after_);
+  if (before == after) return;
+  lines->push_back(Printable(SubjectOf(domain_)) + ": " + permission.word +
+                   " " + before + kArrow + after);
+  if (is_master_) return told->push_back(permission.global_key);
+  for (const char* key :
+       {permission.limit_key, permission.always_key, permission.allow_key}) {
+    if (key) told->push_back(key);
+  }
+}
+
+std::vector<std::string> SettingsEdit::Lines() const {
+  std::vector<std::string> lines;
+  std::vector<std::string> told;
+  for (const Permission& permission : kPermissions) {
+    AddPermissionLine(permission, &lines, &told);
+  }
+  for (const KeyChange& change : KeyChanges()) {
+    if (std::ranges::count(told, change.key.c_str()) > 0) continue;
+    lines.push_back(Printable(SubjectOf(domain_)) + ": " +
+                    Printable(change.key.c_str()) + " " +
+                    ValueText(SASM::FindSetting(change.key, *before_)) +
+                    kArrow + ValueText(SASM::FindSetting(change.key, *after_)));
+  }
+  return lines;
+}
+
+std::function<bool(SASM::SettingsManager&)> SettingsEdit::Application() const {
+  return [domain = domain_,
+          changes = KeyChanges()](SASM::SettingsManager& manager) {
+    SettingsDictionary* settings =
+        manager.EnsureSettingsAreLoadedForDomain(domain);
+    if (!settings) return false;
+    for (const KeyChange& change : changes) {
+      if (change.value) {
+        settings->insert(change.key, *change.value);
+        continue;
+      }
+      const auto found = settings->find(change.key);
+      if (found != settings->end()) settings->erase(found);
+    }
+    return manager.SynchronizeSettingsForDomain(domain);
+  };
+}
+
+Change SettingsEdit::ToChange() const {
+  return {SubjectOf(domain_), Lines(), Application()};
+}

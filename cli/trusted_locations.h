@@ -1,0 +1,18 @@
+// The list of trusted locations.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/changes.h"
+
+// The names of the elements; none of null.
+[[nodiscard]] std::vector<std::string> NamesIn(const SASM::SDIVector* list);
+
+// Appends the paths that are not there, each once.
+void AddLocations(const std::vector<std::string>& paths,
+                  std::vector<std::string>* locations);
+
+// Makes these the trusted locations, in this order. No change when they are.
+[[nodiscard]] Change ChangeOfLocations(
+    const std::vector<std::string>& locations, const StoreView& store);
