@@ -22,7 +22,8 @@ void WriteRow(const List& list, GtkTreeModel* model, GtkTreeIter* row,
               gpointer data) {
   const auto* chosen = static_cast<ChosenState*>(data);
   const SimpleString domain = get_domain_field(chosen->panel, model, row);
-  if (domain.IsEmpty()) return;
+  // The row may be left from before the site was removed in another list.
+  if (domain.IsEmpty() || !chosen->panel->settings->IsListed(domain)) return;
   // Data that could not be deleted is still in the list when it is refilled.
   (void)SetSiteState(*list.permission, domain, *chosen->state);
 }
@@ -42,6 +43,13 @@ void domain_p2p_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
   WriteRow(kLists[kNetworkList], model, row, data);
 }
 
+// One action on the list of sites, which is written at most once.
+void ForEachSelectedSite(GnomeTCCapplet* panel, const char* tree_view_id,
+                         GtkTreeSelectionForeachFunc function, gpointer data) {
+  const SASM::ListWriteGuard one_action(panel->settings);
+  for_each_selected(panel, tree_view_id, function, data);
+}
+
 // Gives every selected site the chosen state, not only the edited one.
 void SetSelected(GnomeTCCapplet* panel, const List& list,
                  GtkCellRendererCombo* renderer, GtkTreeIter* choice,
@@ -51,7 +59,7 @@ void SetSelected(GnomeTCCapplet* panel, const List& list,
   PermissionState state = get_choice_state(choices, choice);
   g_object_unref(choices);
   ChosenState chosen = {panel, &state};
-  for_each_selected(panel, list.tree_view, row_callback, &chosen);
+  ForEachSelectedSite(panel, list.tree_view, row_callback, &chosen);
   update_notebook_page(panel, kCurrentPage);
 }
 
@@ -116,7 +124,7 @@ void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
 
 // Removes every selected site, with all its data.
 void delete_selected_domains(GnomeTCCapplet* panel, const char* tree_view_id) {
-  for_each_selected(panel, tree_view_id, delete_domain_cb, panel);
+  ForEachSelectedSite(panel, tree_view_id, delete_domain_cb, panel);
   update_notebook_page(panel, kCurrentPage);
 }
 

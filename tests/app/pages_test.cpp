@@ -45,6 +45,14 @@ TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
   EXPECT_TRUE(IsUsable("remove_site_storage_setting_button"));
   GoToPage(kStoragePage);
   EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Block"));
+  // A row of a site that was removed from another list changes nothing.
+  GoToPage(kPrivacyPage);
+  Select("site_privacy_treeview", {1});
+  Click("remove_site_privacy_setting_button");
+  const auto before = home_.Disk();
+  Select("site_storage_treeview", {1});
+  ChooseInList(kStorageList, kPermissionStateAlwaysAllow);
+  EXPECT_EQ(home_.Disk(), before);
 }
 
 TEST_F(PagesTest, BlockingPeersOverridesSitesWithoutChangingThem) {

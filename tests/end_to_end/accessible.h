@@ -43,8 +43,8 @@ class Accessible {
   Accessible(const char* program, const char* path)
       : program_(program), path_(path) {}
 
-  // Reads the values from the answer, in a format of g_variant_get(). Without an
-  // answer in that format reads nothing and returns false.
+  // Reads the values from the answer, in a format of g_variant_get(). Without
+  // an answer in that format reads nothing and returns false.
   template <typename... Values>
   bool Ask(const char* interface, const char* method, GVariant* arguments,
            const char* format, Values*... values) const;

@@ -13,9 +13,9 @@
 #include "tests/support/panel_home.h"
 #include "tests/support/program_run.h"
 
-// Needs a desktop of its own. Finds the main window and dialogs by their titles.
-// Verbs wait for the widgets that they need, and fail the test when these do not
-// appear. Any warning of the toolkit ends the program.
+// Needs a desktop of its own. Finds the main window and dialogs by their
+// titles. Verbs wait for the widgets that they need, and fail the test when
+// these do not appear. Any warning of the toolkit ends the program.
 class EndToEndTest : public testing::Test {
  protected:
   static constexpr char kMainWindow[] = "Tessary Corvane Player Preferences";
@@ -27,8 +27,8 @@ class EndToEndTest : public testing::Test {
   // it.
   void See(const std::string& title);
 
-  // A visible widget with one of the roles, in the window seen last; a menu item
-  // anywhere.
+  // A visible widget with one of the roles, in the window seen last; a menu
+  // item anywhere.
   using Roles = std::set<std::string>;
   [[nodiscard]] Accessible Get(const Roles& roles, const std::string& name);
   // Clicks on a button, check box, page tab or column header.
