@@ -190,6 +190,9 @@ class SettingsManager {
   // The list as it is stored, without loading anything; null when missing.
   [[nodiscard]] SDIVector* StoredDomains() const;
   bool StoreEmptyDomains();
+  // The elements of what is no site's name and of sites without a file.
+  [[nodiscard]] std::unordered_set<const void*> ElementsWithoutFile(
+      const SDIVector& domains) const;
   // Writes the list, which has been changed in place, or leaves that to a
   // ListWriteGuard.
   bool StoreDomains();

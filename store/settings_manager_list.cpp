@@ -1,6 +1,5 @@
 // The list of domains.
 #include <algorithm>
-#include <functional>
 #include <unordered_set>
 #include <utility>
 
@@ -94,26 +93,33 @@ void SettingsManager::VerifyDomainsList() {
   // Not GetDomains: it would load the settings that are being loaded.
   SDIVector* domains = StoredDomains();
   if (!domains || !mLayout.IsOnDisk()) return;
+  const auto missing = ElementsWithoutFile(*domains);
+  domains->removeElementsIf(
+      [&](const void* element) { return missing.contains(element); });
+}
+
+std::unordered_set<const void*> SettingsManager::ElementsWithoutFile(
+    const SDIVector& domains) const {
   const auto name_of = [](const void* element) -> const SimpleString& {
     return static_cast<const SettingDataItem*>(element)->name;
   };
-  const auto has_no_file = [&](const void* element) {
-    return !HasSettingsFile(name_of(element), mLayout);
+  const auto has_file = [&](const void* element) {
+    return HasSettingsFile(name_of(element), mLayout);
   };
   const auto may_be_rewritten = [&](const void* element) {
     return WasJustChanged(mLayout.DirectoryOf(name_of(element)));
   };
   std::unordered_set<const void*> missing;
-  for (unsigned int i = 0; i < domains->count; ++i) {
-    if (has_no_file(domains->At(i))) missing.insert(domains->At(i));
+  for (unsigned int i = 0; i < domains.count; ++i) {
+    if (!has_file(domains.At(i))) missing.insert(domains.At(i));
   }
+  // All are given the same time, however many they are.
   for (int look = 0; look < kMoreLooks; ++look) {
     if (std::ranges::none_of(missing, may_be_rewritten)) break;
     if (!WaitForWriter()) break;
-    std::erase_if(missing, std::not_fn(has_no_file));
+    std::erase_if(missing, has_file);
   }
-  domains->removeElementsIf(
-      [&](const void* element) { return missing.contains(element); });
+  return missing;
 }
 
 bool SettingsManager::IsListed(const SimpleString& site) {
