@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/shortcuts.h"
 #include "strings/placeholder.h"
 
 namespace {
@@ -21,6 +22,7 @@ GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
   if (title) gtk_window_set_title(GTK_WINDOW(dialog), title);
   g_signal_connect(dialog, "response", G_CALLBACK(gtk_widget_destroy), nullptr);
   gtk_window_set_resizable(GTK_WINDOW(dialog), FALSE);
+  share_shortcuts(parent, GTK_WINDOW(dialog));
   gtk_widget_show(dialog);
   if (error) g_error_free(error);
   return dialog;

@@ -9,6 +9,7 @@
 #include "app/list_sorting.h"
 #include "app/localize_widgets.h"
 #include "app/notebook_pages.h"
+#include "app/shortcuts.h"
 #include "app/site_dialogs.h"
 #include "app/trusted_locations.h"
 #include "app/ui_definition.h"
@@ -102,6 +103,7 @@ bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
   prepare_choices(panel);
   prepare_location_editing(panel);
   set_links(panel);
+  prepare_shortcuts(panel);
   localize_widgets(panel);
   fix_list_sizes(panel);
   gtk_widget_show(panel->window);

@@ -90,7 +90,7 @@ TEST_F(ProgramTest, NothingHappensInADialogThatIsLeft) {
 }
 
 TEST_F(ProgramTest, EveryWayOfClosingEndsWell) {
-  for (const char* key : {"Escape", "alt+F4", "Return"}) {
+  for (const char* key : {"Escape", "alt+F4", "Return", "ctrl+q"}) {
     SCOPED_TRACE(key);
     Start();
     if (std::string(key) == "Return") {

@@ -185,6 +185,13 @@ TEST_F(SiteListTest, ChangesSeveralPermissionsByMouse) {
   }
 }
 
+TEST_F(SiteListTest, ReadsTheSettingsAgain) {
+  Open(kStorage, {"a.example"});
+  home_.AddSites({"b.example", "a.example"});
+  Press("F5");
+  ExpectSites({"b.example", "a.example"});
+}
+
 TEST_F(SiteListTest, AMenuOpensWithWhatTheRowHasUnderThePointer) {
   Open(kCamera, {"a.example"});
   const std::string before = home_.Read(PanelHome::SettingsFileOf("a.example"));
