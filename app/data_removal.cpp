@@ -1,4 +1,6 @@
 // Deletes all site data and the licence files.
+#include <string>
+
 #include "app/dialogs.h"
 #include "app/notebook_pages.h"
 #include "platform/drm_license_manager.h"
@@ -6,23 +8,26 @@
 
 namespace {
 
-void ShowUnableToDelete(GnomeTCCapplet* panel, int message_id) {
+// With the name of what is still there, so that the titles differ.
+void ShowUnableToDelete(GnomeTCCapplet* panel, int message_id, int name_id) {
   constexpr char kFallback[] = "Unable to delete";
-  show_error_dialog(GTK_WINDOW(panel->window), text_or(panel, 11500, kFallback),
+  const std::string title = std::string(text_or(panel, 11500, kFallback)) +
+                            " – " + text_or(panel, name_id, "");
+  show_error_dialog(GTK_WINDOW(panel->window), title.c_str(),
                     text_or(panel, message_id, kFallback), nullptr);
 }
 
 void DeleteLicences(GnomeTCCapplet* panel) {
   LinuxFileManager file_manager;
   SASM::DRMLicenseManager licences(&file_manager);
-  if (!licences.Reset()) ShowUnableToDelete(panel, 11502);
+  if (!licences.Reset()) ShowUnableToDelete(panel, 11502, 41100);
 }
 
 void DeleteSiteData(GnomeTCCapplet* panel) {
   const bool sites_removed =
       panel->settings->RemoveAllSettingsAndOrLocalStorage(true, true);
   const bool cache_removed = panel->settings->RemoveAssetCache();
-  if (!sites_removed || !cache_removed) ShowUnableToDelete(panel, 11501);
+  if (!sites_removed || !cache_removed) ShowUnableToDelete(panel, 11501, 21000);
 }
 
 }  // namespace

@@ -3,7 +3,8 @@
 
 #include "app/widget_helpers.h"
 
-// Shows a non-modal error dialog with a Close button that destroys it.
+// Shows a non-modal error dialog with a Close button that destroys it,
+// clear of the one that was shown before it.
 // `message_format` ("Error" for null) has one placeholder, which is replaced by
 // the message of `error`, or by nothing for null. Frees `error`. The dialog
 // belongs to GTK.
@@ -13,8 +14,8 @@ GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
 // Runs the dialog modally and hides it. True when it was answered with OK.
 [[nodiscard]] bool run_dialog(GnomeTCCapplet* panel, const char* dialog_id);
 
-// Shows the dialog non-modally on top of the parent. A title string id other
-// than 0 sets its title.
+// Shows the dialog non-modally, in front and over the parent. A title string
+// id other than 0 sets its title.
 void show_dialog_over(GnomeTCCapplet* panel, const char* dialog_id,
                       const char* parent_id, int title_string_id);
 
