@@ -11,6 +11,14 @@ namespace {
 // A label may later become this much narrower than its first allocation.
 constexpr int kWrappedLabelSlack = 10;  // pixels
 
+void WrapAtAllocatedWidth(GtkWidget* label, GtkAllocation* allocation,
+                          gpointer) {
+  int wrap_width = 0;
+  gtk_widget_get_size_request(label, &wrap_width, nullptr);
+  if (allocation->width <= wrap_width) return;
+  gtk_widget_set_size_request(label, allocation->width, -1);
+}
+
 GdkRectangle FrameOf(GtkWidget* window) {
   GdkRectangle frame;
   gdk_window_get_frame_extents(gtk_widget_get_window(window), &frame);
@@ -91,6 +99,11 @@ void show_dialog_over(GnomeTCCapplet* panel, const char* dialog_id,
     set_window_title(panel, dialog_id, title_string_id, nullptr);
   }
   gtk_window_present(GTK_WINDOW(dialog));
+}
+
+void widen_label_with_dialog(GnomeTCCapplet* panel, const char* label_id) {
+  g_signal_connect(get_widget(panel->builder, label_id), "size-allocate",
+                   G_CALLBACK(WrapAtAllocatedWidth), nullptr);
 }
 
 extern "C" G_MODULE_EXPORT void dialog_button_cb(GtkDialog* dialog, gint,

@@ -19,6 +19,9 @@ GtkWidget* show_error_dialog(GtkWindow* parent, const char* title,
 void show_dialog_over(GnomeTCCapplet* panel, const char* dialog_id,
                       const char* parent_id, int title_string_id);
 
+// Lets a wrapped label take the width of a dialog that a long button widens.
+void widen_label_with_dialog(GnomeTCCapplet* panel, const char* label_id);
+
 // Signal handlers that many objects of the UI definition share.
 extern "C" {
 // Ends the program when the main window is answered. Hides any other dialog,

@@ -19,6 +19,15 @@ bool IsChosenByUser(GtkToggleButton* button, GnomeTCCapplet* panel) {
   return !panel->updating && gtk_toggle_button_get_active(button);
 }
 
+void FocusActive(GtkToggleButton* one_of_group) {
+  for (GSList* node =
+           gtk_radio_button_get_group(GTK_RADIO_BUTTON(one_of_group));
+       node; node = node->next) {
+    if (!gtk_toggle_button_get_active(GTK_TOGGLE_BUTTON(node->data))) continue;
+    gtk_widget_grab_focus(GTK_WIDGET(node->data));
+  }
+}
+
 // The state chosen by a button that blocks all sites.
 PermissionState StateOfSwitch(GtkToggleButton* button) {
   return gtk_toggle_button_get_active(button) ? kPermissionStateAlwaysDeny
@@ -52,6 +61,7 @@ G_MODULE_EXPORT void on_storage_block_radiobutton_toggled(
     SetForAllSites(panel, kStorage, kPermissionStateAlwaysDeny);
   } else {
     update_notebook_page(panel, kCurrentPage);  // back to the stored choice
+    FocusActive(button);
   }
 }
 

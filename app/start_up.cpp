@@ -104,6 +104,7 @@ bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
   prepare_location_editing(panel);
   set_links(panel);
   prepare_shortcuts(panel);
+  widen_label_with_dialog(panel, "deny_all_storage_label");
   localize_widgets(panel);
   fix_list_sizes(panel);
   gtk_widget_show(panel->window);

@@ -15,6 +15,7 @@ class Accessible {
   enum State {
     kActive = 1,
     kChecked = 4,
+    kFocused = 12,
     kSelected = 23,
     kSensitive = 24,
     kShowing = 25,

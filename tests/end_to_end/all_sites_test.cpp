@@ -51,7 +51,9 @@ TEST_F(AllSitesTest, StorageIsBlockedOnlyWhenConfirmed) {
   See("Disable Local Storage");
   Click("Cancel");
   See(kMainWindow);
-  EXPECT_TRUE(Get({"radio button"}, kAsk).Is(Accessible::kChecked));
+  const Accessible choice = Get({"radio button"}, kAsk);
+  EXPECT_TRUE(choice.Is(Accessible::kChecked));
+  EXPECT_TRUE(Eventually([&] { return choice.Is(Accessible::kFocused); }));
   ExpectLimits("0");
   EXPECT_TRUE(home_.Has(data_));
   Click(kBlock);
