@@ -92,6 +92,9 @@ GnomeTCCapplet* new_panel() {
 }
 
 bool open_panel(GnomeTCCapplet* panel, const char* page_name) {
+  // No language here is written from right to left: where the locale's is, the
+  // toolkit would mirror English windows.
+  gtk_widget_set_default_direction(GTK_TEXT_DIR_LTR);
   register_permission_icons();
   open_settings(panel);
   if (!load_ui(panel)) return false;

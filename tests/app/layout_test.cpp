@@ -81,6 +81,7 @@ class LayoutTest : public PanelTest,
     int width = 0;
     int height = 0;
     gtk_window_get_size(GTK_WINDOW(window), &width, &height);
+    EXPECT_EQ(gtk_widget_get_direction(window), GTK_TEXT_DIR_LTR);
     EXPECT_LE(width, kLargestWidth);
     EXPECT_LE(height, kLargestHeight);
     ExpectNothingClipped(window, nullptr);
@@ -135,7 +136,7 @@ std::vector<const char*> Locales() {
   for (const auto& language : NCPStrings::kLanguages) {
     locales.push_back(language.locale);
   }
-  // A text without a translation is English, in either direction of writing.
+  // English, also where the locale is written from right to left.
   locales.push_back("he_IL");
   return locales;
 }
