@@ -98,13 +98,10 @@ G_MODULE_EXPORT void on_compat_settings_button_clicked(GtkButton*,
   ShowDialog(panel, kLists[kLocationList]);
 }
 
-// Ignores failure: there is nowhere to report it.
 G_MODULE_EXPORT void on_check_now_button_clicked(GtkButton*,
                                                  GnomeTCCapplet* panel) {
   const char* address = text_or(panel, 13009, nullptr);
-  if (!address) return;
-  (void)gtk_show_uri(gdk_screen_get_default(), address,
-                     gtk_get_current_event_time(), nullptr);
+  if (address) open_address(address);
 }
 
 }  // extern "C"

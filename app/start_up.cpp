@@ -81,6 +81,7 @@ void set_links(GnomeTCCapplet* panel) {
   for (const Link& link : kLinks) {
     set_link_URL(panel, link.button, link.string_id);
   }
+  open_links_quietly();
 }
 
 }  // namespace

@@ -117,6 +117,19 @@ void set_link_URL(GnomeTCCapplet* panel, const char* link_button_id,
   if (address) gtk_link_button_set_uri(GTK_LINK_BUTTON(button), address);
 }
 
+void open_address(const char* address) {
+  (void)gtk_show_uri(gdk_screen_get_default(), address,
+                     gtk_get_current_event_time(), nullptr);
+}
+
+void open_links_quietly() {
+  G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+  gtk_link_button_set_uri_hook([](GtkLinkButton*, const char* address,
+                                  gpointer) { open_address(address); },
+                               nullptr, nullptr);
+  G_GNUC_END_IGNORE_DEPRECATIONS
+}
+
 void set_sensitive(GnomeTCCapplet* panel, const char* widget_id,
                    bool is_sensitive) {
   gtk_widget_set_sensitive(get_widget(panel->builder, widget_id), is_sensitive);

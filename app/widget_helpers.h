@@ -42,6 +42,11 @@ SASM::SimpleString get_text_field(GtkTreeModel* model, GtkTreeIter* row,
                                   int column);
 void set_link_URL(GnomeTCCapplet* panel, const char* link_button_id,
                   int string_id);
+// Opens the page in the browser. Ignores failure: there is nowhere to report
+// it.
+void open_address(const char* address);
+// Lets every link button open its page that way; the toolkit's own way warns.
+void open_links_quietly();
 void set_sensitive(GnomeTCCapplet* panel, const char* widget_id,
                    bool is_sensitive);
 // Emits "toggled" when the state changes.
