@@ -13,6 +13,16 @@ namespace {
 constexpr char kTextDomain[] = "corvane-player-properties";
 constexpr char kPageNames[] = "(privacy|storage|playback|advanced)";
 
+// The toolkit's message ends with the display of the command line, but is
+// without the one of the environment.
+const char* UnnamedDisplay(const GError* error) {
+  const bool is_about_display =
+      g_error_matches(error, G_OPTION_ERROR, G_OPTION_ERROR_FAILED) &&
+      !gdk_display_get_default();
+  const char* name = g_getenv("DISPLAY");
+  return is_about_display && name && !gdk_get_display_arg_name() ? name : "";
+}
+
 }  // namespace
 
 bool parse_command_line(GnomeTCCapplet* panel, int* argc, char*** argv,
@@ -37,7 +47,7 @@ bool parse_command_line(GnomeTCCapplet* panel, int* argc, char*** argv,
   GError* error = nullptr;
   const bool parsed = g_option_context_parse(context, argc, argv, &error);
   if (!parsed) {
-    std::fprintf(stderr, "%s\n", error->message);
+    std::fprintf(stderr, "%s%s\n", error->message, UnnamedDisplay(error));
     g_error_free(error);
   }
   g_option_context_free(context);

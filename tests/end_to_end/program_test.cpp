@@ -107,15 +107,19 @@ TEST_F(ProgramTest, AnswersOnTheCommandLine) {
     int status;
     const char* output;
     const char* errors;
+    const char* environment = "-u DISPLAY";
   } cases[] = {
       {"--no-such-option", 1, "", "Unknown option --no-such-option\n"},
       {"--show-page", 1, "", "Missing argument for --show-page\n"},
       {"--help", 0, "Usage:\n", ""},
       {"", 1, "", "Cannot open display: \n"},
+      {"--display=:77", 1, "", "Cannot open display: :77\n"},
+      {"", 1, "", "Cannot open display: :78\n", "DISPLAY=:78"},
   };
   for (const auto& c : cases) {
     const ProgramRun run =
-        RunCommand("env -u DISPLAY " + Quoted(PANEL_PROGRAM) + " " + c.options);
+        RunCommand(std::string("env ") + c.environment + " " +
+                   Quoted(PANEL_PROGRAM) + " " + c.options);
     EXPECT_EQ(run.status, c.status);
     EXPECT_THAT(run.output, StartsWith(c.output));
     EXPECT_EQ(run.errors, c.errors);
