@@ -4,10 +4,11 @@
 #include <cstdlib>
 #include <string>
 
-#include "app/dialogs.h"
 #include "app/list_selection.h"
 #include "app/lists.h"
+#include "app/location_chooser.h"
 #include "app/notebook_pages.h"
+#include "app/widget_helpers.h"
 #include "settings/setting_data_item.h"
 
 using SASM::SDIVector;
@@ -36,34 +37,13 @@ void AddLocation(GnomeTCCapplet* panel, const char* path) {
   panel->trusted_paths->setVectorValue(locations);
 }
 
-// A trusted location has not been opened: it does not belong in the user's
-// recent files, and the toolkit prints a warning where it cannot write those.
-void KeepOutOfRecentFiles() {
-  auto* recent_files = GTK_RECENT_MANAGER_CLASS(
-      g_type_class_ref(GTK_TYPE_RECENT_MANAGER));  // never released
-  recent_files->changed = nullptr;
-}
-
 void ChooseLocation(GnomeTCCapplet* panel, GtkFileChooserAction action,
                     int title_id, const char* title_fallback) {
-  KeepOutOfRecentFiles();
   GtkWidget* parent = get_widget(panel->builder, kList.dialog);
-  GtkWidget* chooser = gtk_file_chooser_dialog_new(
-      text_or(panel, title_id, title_fallback), GTK_WINDOW(parent), action,
-      "gtk-cancel", GTK_RESPONSE_CANCEL, "gtk-open", GTK_RESPONSE_ACCEPT,
-      nullptr);
-  gtk_dialog_set_default_response(GTK_DIALOG(chooser), GTK_RESPONSE_ACCEPT);
-  // The chooser otherwise begins with recent files, where it loses the first
-  // keys that are typed.
-  gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(chooser),
-                                      g_get_home_dir());
-  if (gtk_dialog_run(GTK_DIALOG(chooser)) == GTK_RESPONSE_ACCEPT) {
-    // Null for a file without a local path.
-    char* path = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(chooser));
-    if (path) AddLocation(panel, path);
-    g_free(path);
-  }
-  gtk_widget_destroy(chooser);
+  char* path = choose_location(GTK_WINDOW(parent), action,
+                               text_or(panel, title_id, title_fallback));
+  if (path) AddLocation(panel, path);
+  g_free(path);
   update_notebook_page(panel, kCurrentPage);
 }
 
@@ -75,6 +55,22 @@ std::string EditableText(const SASM::SimpleString& location) {
   return text;
 }
 
+void KeepText(GtkCellEditable* entry) {
+  const bool is_open = gtk_widget_get_parent(GTK_WIDGET(entry)) != nullptr;
+  if (!is_open) return;
+  gtk_cell_editable_editing_done(entry);
+  gtk_cell_editable_remove_widget(entry);
+}
+
+// Before the focus leaves the entry, which drops its text.
+void KeepTextOnClose(GtkCellEditable* entry, GtkWidget* next_focus,
+                     GtkDialog* dialog) {
+  if (next_focus && gtk_dialog_get_response_for_widget(dialog, next_focus) ==
+                        GTK_RESPONSE_CLOSE) {
+    KeepText(entry);
+  }
+}
+
 // Replaces the text of the row, which may be an excerpt or escaped.
 void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
                        const char* path, GnomeTCCapplet* panel) {
@@ -84,6 +80,11 @@ void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
   const SASM::SimpleString location = get_text_field(model, &row, kNameColumn);
   gtk_entry_set_text(GTK_ENTRY(entry), EditableText(location).c_str());
   gtk_editable_select_region(GTK_EDITABLE(entry), 0, -1);
+  GtkWidget* dialog = get_widget(panel->builder, kList.dialog);
+  g_signal_connect_object(dialog, "set-focus", G_CALLBACK(KeepTextOnClose),
+                          entry, G_CONNECT_SWAPPED);
+  g_signal_connect_object(dialog, "hide", G_CALLBACK(KeepText), entry,
+                          G_CONNECT_SWAPPED);
 }
 
 bool IsCollected(const GnomeTCCapplet* panel, guint32 index) {

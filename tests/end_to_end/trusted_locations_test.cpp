@@ -23,6 +23,7 @@ class TrustedLocationsTest : public EndToEndTest {
     Click("Add Folder…");
     See("Choose the trusted directory");
     (void)Get({"toggle button"}, home_.Path().filename());
+    Press("alt+o");  // nothing chosen yet
     Type(folder_);
     Press("Return");
     See(kLocations);
@@ -49,6 +50,11 @@ TEST_F(TrustedLocationsTest, AreAddedEditedAndRemoved) {
   Select({"/b", "/d"});
   Press("Delete");
   ExpectLocations("[/c " + folder_ + " " + folder_ + "]");
+  Select({"/c"});
+  Press("Return");
+  Type("/e");
+  ClickAt(Get({"push button"}, "Close"));
+  ExpectLocations("[/e " + folder_ + " " + folder_ + "]");
 }
 
 // The rows are then in another order than the stored list.
