@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/list_place.h"
 #include "app/list_sorting.h"
 #include "app/widget_helpers.h"
 #include "model/storage_setting.h"
@@ -187,6 +188,7 @@ void SetCells(GnomeTCCapplet* panel, const Column& column, const Row& row,
 }  // namespace
 
 void fill_list(GnomeTCCapplet* panel, const List& list) {
+  const ListPlace place(panel, list);
   set_sensitive(panel, list.remove_button, false);
   const std::vector<Row> rows = ReadRows(panel, list);
   GtkListStore* store = get_list_store(panel->builder, list.store);

@@ -111,11 +111,8 @@ gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
   auto* edited = GTK_TREE_VIEW_COLUMN(column);
   GtkTreePath* path = NewClickedRow(view, *release, edited);
   if (!path) return FALSE;
-  GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
   gtk_widget_grab_focus(GTK_WIDGET(view));
-  AllowChanges(selection, FALSE);
-  gtk_tree_view_set_cursor(view, path, edited, TRUE);
-  AllowChanges(selection, TRUE);
+  set_cursor_only(view, path, edited, CursorUse::kEdit);
   if (edited->editable_widget) {
     IgnoreDoubleClickOn(edited->editable_widget, *release);
   }
@@ -130,4 +127,12 @@ void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column) {
                    column);
   g_signal_connect(view, "button-release-event",
                    G_CALLBACK(EditKeepingSelection), column);
+}
+
+void set_cursor_only(GtkTreeView* view, GtkTreePath* path,
+                     GtkTreeViewColumn* column, CursorUse use) {
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
+  AllowChanges(selection, FALSE);
+  gtk_tree_view_set_cursor(view, path, column, use == CursorUse::kEdit);
+  AllowChanges(selection, TRUE);
 }

@@ -8,3 +8,10 @@
 // toolkit by itself does so only on the row where the selection began, and
 // drops the selection on any other.
 void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column);
+
+enum class CursorUse { kMove, kEdit };
+
+// Puts the cursor on a cell, and edits it there if so told, without changing
+// what is selected.
+void set_cursor_only(GtkTreeView* view, GtkTreePath* path,
+                     GtkTreeViewColumn* column, CursorUse use);

@@ -91,12 +91,22 @@ const List& ListOf(GnomeTCCapplet* panel, GtkCellRenderer* renderer) {
   g_assert_not_reached();
 }
 
+// A key opens the choice in the row with the cursor, selected or not.
+void SelectIfNoneIs(GtkTreeView* view, const char* row) {
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
+  if (gtk_tree_selection_count_selected_rows(selection) > 0) return;
+  GtkTreePath* path = gtk_tree_path_new_from_string(row);
+  gtk_tree_selection_select_path(selection, path);
+  gtk_tree_path_free(path);
+}
+
 // By itself the toolkit marks the choice whose text is that of the edited row,
 // if there is one. Choosing the marked one is no change: where the selected
 // rows differ, they could not all get it.
 void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
-                     const char*, GnomeTCCapplet* panel) {
+                     const char* row, GnomeTCCapplet* panel) {
   const List& list = ListOf(panel, renderer);
+  SelectIfNoneIs(get_tree_view(panel->builder, list.tree_view), row);
   SharedState shared = {.column = PermissionColumn(list).sort_column};
   for_each_selected(panel, list.tree_view, ShareState, &shared);
   // Blocks the renderer, which takes every change as the user's choice.

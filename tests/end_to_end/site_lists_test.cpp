@@ -98,7 +98,7 @@ TEST_P(EveryListTest, AChoiceReachesEverySelectedSite) {
   const std::string before = home_.Read(PanelHome::SettingsFileOf("b.example"));
   for (const Choice choice : {kBlock, kAllow, kAsk}) {
     SCOPED_TRACE(kShown[choice]);
-    Select({"a.example", "c.example"});
+    Select({"c.example", "a.example"});
     Press("Right Right Return");
     (void)Get({"menu item"}, "Allow");
     Press(kKeys[choice] + " Return");
@@ -106,6 +106,8 @@ TEST_P(EveryListTest, AChoiceReachesEverySelectedSite) {
     ExpectState("c.example", choice);
     // Waits for the refilled list, in which no row is selected.
     (void)Get({"table cell"}, kShown[choice]);
+    Press("Down");
+    ExpectSelected("b.example");
   }
   EXPECT_EQ(home_.Read(PanelHome::SettingsFileOf("b.example")), before);
 }
@@ -126,6 +128,8 @@ TEST_P(EveryListTest, RemovesSelectedSitesOfASortedList) {
   Click("Remove");
   ExpectStored(kMaster, "domains", "[shop.a.example a.example]");
   EXPECT_FALSE(Get({"push button"}, "Remove").Is(Accessible::kSensitive));
+  Press("Down");
+  ExpectSelected("a.example");
   Close();
   EXPECT_FALSE(home_.Has(data));
   EXPECT_EQ(home_.Stored("z.b.example", "klimit"), "no settings");
