@@ -4,17 +4,44 @@
 
 #include "app/lists.h"
 #include "app/name_cells.h"
+#include "app/removal_question.h"
 #include "app/selection_editing.h"
 #include "app/widget_helpers.h"
 
 namespace {
 
-gboolean RemoveOnDelete(GtkWidget*, GdkEventKey* event, gpointer button) {
+const List& ListOf(GnomeTCCapplet* panel, GtkWidget* view) {
+  for (const List& list : kLists) {
+    if (get_widget(panel->builder, list.tree_view) == view) return list;
+  }
+  g_assert_not_reached();
+}
+
+// The key is pressed more easily than the button, and what a site has stored
+// cannot be had back.
+bool IsMeant(GnomeTCCapplet* panel, const List& list) {
+  GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
+  const int rows =
+      gtk_tree_selection_count_selected_rows(gtk_tree_view_get_selection(view));
+  return rows < 2 || !list.permission || confirm_removal(panel, list);
+}
+
+gboolean RemoveOnDelete(GtkWidget* view, GdkEventKey* event,
+                        GnomeTCCapplet* panel) {
+  const List& list = ListOf(panel, view);
+  GtkWidget* button = get_widget(panel->builder, list.remove_button);
   const bool is_delete =
       event->keyval == GDK_Delete || event->keyval == GDK_KP_Delete;
-  if (!is_delete || !gtk_widget_is_sensitive(GTK_WIDGET(button))) return FALSE;
-  gtk_button_clicked(GTK_BUTTON(button));
+  if (!is_delete || !gtk_widget_is_sensitive(button)) return FALSE;
+  if (IsMeant(panel, list)) gtk_button_clicked(GTK_BUTTON(button));
   return TRUE;
+}
+
+// A row can be selected without a move of the cursor.
+void AllowRemoval(GtkTreeSelection* selection, GtkWidget* button) {
+  if (gtk_tree_selection_count_selected_rows(selection) > 0) {
+    gtk_widget_set_sensitive(button, TRUE);
+  }
 }
 
 // Skips subclasses, which manage their selection themselves.
@@ -37,6 +64,9 @@ void prepare_lists(GnomeTCCapplet* panel) {
     GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
     show_names(view, get_column(panel->builder, list.columns.front().id));
     g_signal_connect(view, "key-press-event", G_CALLBACK(RemoveOnDelete),
+                     panel);
+    g_signal_connect(gtk_tree_view_get_selection(view), "changed",
+                     G_CALLBACK(AllowRemoval),
                      get_widget(panel->builder, list.remove_button));
     if (!list.permission) continue;
     keep_selection_when_editing(

@@ -41,6 +41,8 @@ struct List {
   const char* remove_button;
   // Text by which a screen reader announces the list.
   int accessible_name_id;
+  // Says what the list is for, and what its Remove button does.
+  int explanation_id;
   // The first one shows the names, which are in kNameColumn.
   std::span<const Column> columns;
   // Null when the rows are not sites.
@@ -124,6 +126,7 @@ inline constexpr List kLists[] = {
      .add_button = "add_site_privacy_setting_button",
      .remove_button = "remove_site_privacy_setting_button",
      .accessible_name_id = 61005,
+     .explanation_id = 61006,
      .columns = kCameraColumns,
      .permission = &kPermissions[kCamera]},
     {.dialog = "storage_by_site_dialog",
@@ -133,6 +136,7 @@ inline constexpr List kLists[] = {
      .add_button = "add_site_storage_setting_button",
      .remove_button = "remove_site_storage_setting_button",
      .accessible_name_id = 61009,
+     .explanation_id = 61010,
      .columns = kStorageColumns,
      .permission = &kPermissions[kStorage]},
     {.dialog = "p2p_by_site_dialog",
@@ -142,6 +146,7 @@ inline constexpr List kLists[] = {
      .add_button = "add_site_p2p_setting_button",
      .remove_button = "remove_site_p2p_setting_button",
      .accessible_name_id = 61007,
+     .explanation_id = 61008,
      .columns = kNetworkColumns,
      .permission = &kPermissions[kNetwork]},
     {.dialog = "compat_settings_dialog",
@@ -151,6 +156,7 @@ inline constexpr List kLists[] = {
      .add_button = "add_trusted_location_button",
      .remove_button = "remove_trusted_location_button",
      .accessible_name_id = 81000,
+     .explanation_id = 81001,
      .columns = kLocationColumns},
 };
 

@@ -159,6 +159,14 @@ TEST_F(SiteListTest, TypingFindsASiteAndDeleteRemovesIt) {
   ExpectSelected("sunny.example");
   Press("Return Delete");
   ExpectStored(kMaster, "domains", "[a.example b.example z.example]");
+  Select({"a.example", "z.example"});
+  for (const char* answer : {"Escape", "Return", "Tab Return"}) {
+    Press("Delete");
+    See("Confirmation Needed");
+    Press(answer);
+    See(list_.title);
+  }
+  ExpectStored(kMaster, "domains", "[b.example]");
 }
 
 // A click on the permission of a selected row keeps the selection. A double
