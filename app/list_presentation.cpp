@@ -4,6 +4,7 @@
 
 #include "app/lists.h"
 #include "app/name_cells.h"
+#include "app/name_search.h"
 #include "app/removal_question.h"
 #include "app/selection_editing.h"
 #include "app/widget_helpers.h"
@@ -63,6 +64,7 @@ void prepare_lists(GnomeTCCapplet* panel) {
   for (const List& list : kLists) {
     GtkTreeView* view = get_tree_view(panel->builder, list.tree_view);
     show_names(view, get_column(panel->builder, list.columns.front().id));
+    find_names_by_any_part(view);
     g_signal_connect(view, "key-press-event", G_CALLBACK(RemoveOnDelete),
                      panel);
     g_signal_connect(gtk_tree_view_get_selection(view), "changed",
