@@ -29,20 +29,19 @@ void AddName(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
                              kLongestName);
 }
 
-std::string NamesOfSelected(GnomeTCCapplet* panel, const List& list) {
+// What a removal does, and to which sites.
+std::string Question(GnomeTCCapplet* panel, const List& list) {
   SelectedNames names;
   for_each_selected(panel, list.tree_view, AddName, &names);
-  return names.text;
+  return std::string(text_or(panel, list.explanation_id, "")) + "\n\n" +
+         names.text;
 }
 
 GtkWidget* NewQuestion(GnomeTCCapplet* panel, const List& list) {
   GtkWidget* dialog = gtk_message_dialog_new(
       GTK_WINDOW(get_widget(panel->builder, list.dialog)), GTK_DIALOG_MODAL,
       GTK_MESSAGE_WARNING, GTK_BUTTONS_NONE, "%s",
-      NamesOfSelected(panel, list).c_str());
-  gtk_message_dialog_format_secondary_text(
-      GTK_MESSAGE_DIALOG(dialog), "%s",
-      text_or(panel, list.explanation_id, ""));
+      Question(panel, list).c_str());
   gtk_window_set_title(GTK_WINDOW(dialog),
                        text_or(panel, 11200, "Confirmation Needed"));
   gtk_dialog_add_buttons(GTK_DIALOG(dialog), text_or(panel, 11001, "Cancel"),
