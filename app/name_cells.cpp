@@ -18,23 +18,78 @@ std::string ShownName(const SASM::SimpleString& name) {
   return PrintableExcerpt(name.c_str(), kLongestShownName);
 }
 
-void ShowName(GtkTreeViewColumn*, GtkCellRenderer* renderer,
-              GtkTreeModel* model, GtkTreeIter* row, gpointer) {
-  const SASM::SimpleString name = get_text_field(model, row, kNameColumn);
-  g_object_set(renderer, "text", ShownName(name).c_str(), nullptr);
+bool Fits(GtkTreeView* view, const std::string& text, int room) {
+  PangoLayout* layout =
+      gtk_widget_create_pango_layout(GTK_WIDGET(view), text.c_str());
+  int width = 0;
+  pango_layout_get_pixel_size(layout, &width, nullptr);
+  g_object_unref(layout);
+  return width + kPadding <= room;
 }
 
-// True when the column that shows the name is too narrow for it.
+// As much of the name as fits. The toolkit would shorten it as well, but leave
+// the rest of the room behind the ellipsis.
+std::string FittingName(GtkTreeView* view, const SASM::SimpleString& name,
+                        int room) {
+  const std::string text = ShownName(name);
+  if (Fits(view, text, room)) return text;
+  std::size_t fits = 1;
+  std::size_t too_long = kLongestShownName;
+  while (too_long - fits > 1) {
+    const std::size_t middle = (fits + too_long) / 2;
+    const std::string part = PrintableExcerpt(name.c_str(), middle);
+    (Fits(view, part, room) ? fits : too_long) = middle;
+  }
+  return PrintableExcerpt(name.c_str(), fits);
+}
+
+// For names, in pixels.
+int RoomIn(GtkTreeView* view, GtkTreeViewColumn* column) {
+  GdkRectangle cell;
+  GtkTreePath* any_row = gtk_tree_path_new_first();
+  gtk_tree_view_get_cell_area(view, any_row, column, &cell);
+  gtk_tree_path_free(any_row);
+  return cell.width;
+}
+
+// Screen readers ask in the same way, and get the whole name.
+bool IsBeingDrawn() {
+  GdkEvent* event = gtk_get_current_event();
+  const bool is_expose = event && event->type == GDK_EXPOSE;
+  if (event) gdk_event_free(event);
+  return is_expose;
+}
+
+// In Japanese and Korean, the ellipsis of a plain name would come from a font
+// of theirs, whose greater height moves the text down.
+PangoAttrList* NewEnglish() {
+  PangoAttrList* attributes = pango_attr_list_new();
+  pango_attr_list_insert(
+      attributes, pango_attr_language_new(pango_language_from_string("en")));
+  return attributes;
+}
+
+void ShowName(GtkTreeViewColumn* column, GtkCellRenderer* renderer,
+              GtkTreeModel* model, GtkTreeIter* row, gpointer) {
+  auto* view = GTK_TREE_VIEW(gtk_tree_view_column_get_tree_view(column));
+  const SASM::SimpleString name = get_text_field(model, row, kNameColumn);
+  const std::string text = IsBeingDrawn()
+                               ? FittingName(view, name, RoomIn(view, column))
+                               : ShownName(name);
+  g_object_set(renderer, "text", text.c_str(), nullptr);
+  // The renderer has a property for the language, but fails to free it.
+  PangoAttrList* attributes =
+      g_str_is_ascii(name.c_str()) ? NewEnglish() : nullptr;
+  g_object_set(renderer, "attributes", attributes, nullptr);
+  if (attributes) pango_attr_list_unref(attributes);
+}
+
+// In the column that shows it.
 bool IsCut(GtkTreeView* view, GtkTreePath* path, const std::string& name) {
   GdkRectangle cell;
   gtk_tree_view_get_cell_area(
       view, path, gtk_tree_view_get_column(view, kNameColumn), &cell);
-  PangoLayout* layout =
-      gtk_widget_create_pango_layout(GTK_WIDGET(view), name.c_str());
-  int width = 0;
-  pango_layout_get_pixel_size(layout, &width, nullptr);
-  g_object_unref(layout);
-  return width + kPadding > cell.width;
+  return !Fits(view, name, cell.width);
 }
 
 // A hyphen at a line break would look like a part of the name.
