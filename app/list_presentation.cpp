@@ -45,6 +45,25 @@ void AllowRemoval(GtkTreeSelection* selection, GtkWidget* button) {
   }
 }
 
+// A hand over the cells of a column that a click opens.
+gboolean PointAtChoices(GtkTreeView* view, GdkEventMotion* motion,
+                        gpointer column) {
+  GdkWindow* rows = gtk_tree_view_get_bin_window(view);
+  GtkTreeViewColumn* under = nullptr;
+  if (motion->window != rows) return FALSE;
+  const bool is_row = gtk_tree_view_get_path_at_pos(
+      view, static_cast<int>(motion->x), static_cast<int>(motion->y), nullptr,
+      &under, nullptr, nullptr);
+  const bool is_choice = is_row && under == column;
+  if (is_choice == (gdk_window_get_cursor(rows) != nullptr)) return FALSE;
+  GdkCursor* hand = is_choice ? gdk_cursor_new_for_display(
+                                    gdk_window_get_display(rows), GDK_HAND2)
+                              : nullptr;
+  gdk_window_set_cursor(rows, hand);
+  if (hand) gdk_cursor_unref(hand);
+  return FALSE;
+}
+
 // Skips subclasses, which manage their selection themselves.
 void AllowSeveralRows(GtkBuilder* builder) {
   GSList* objects = gtk_builder_get_objects(builder);
@@ -71,7 +90,10 @@ void prepare_lists(GnomeTCCapplet* panel) {
                      G_CALLBACK(AllowRemoval),
                      get_widget(panel->builder, list.remove_button));
     if (!list.permission) continue;
-    keep_selection_when_editing(
-        view, get_column(panel->builder, PermissionColumn(list).id));
+    GtkTreeViewColumn* choices =
+        get_column(panel->builder, PermissionColumn(list).id);
+    keep_selection_when_editing(view, choices);
+    g_signal_connect(view, "motion-notify-event", G_CALLBACK(PointAtChoices),
+                     choices);
   }
 }
