@@ -131,12 +131,30 @@ CONFIGS = {
     "zero": b"a\0b=c\n",
 }
 
+FORMAT = '{"format": "corvane-player-settings 1"'
+DOCUMENTS = {
+    "document_empty": FORMAT + "}",
+    "document_values": FORMAT + """, "global": [
+        {"key": "a", "value": true}, {"key": "b", "value": -1.5e-3},
+        {"key": {"bytes": "ff61"}, "value": {"bytes": "FE"}},
+        {"key": "n", "value": {"number": "NaN"}},
+        {"key": "z", "value": {"number": "-0"}},
+        {"key": "l", "value": {"array": [{"name": "e", "value": "x"}]}}],
+        "trusted_locations": ["/a\\u0007"],
+        "sites": [{"site": "a/b", "listed": false, "settings": []}]}""",
+    "document_deep": "[" * 5000,
+    "document_twice": FORMAT + ', "sites": [], "sites": []}',
+    "document_names": FORMAT + ', "sites": [{"site": "..", "settings": []}]}',
+}
+
 
 def main():
     corpora = {
         "settings_reader": IMAGES,
         "settings_round_trip": IMAGES,
         "store": HOMES,
+        "document": IMAGES | {name: text.encode()
+                              for name, text in DOCUMENTS.items()},
         "language": {f"name_{i}": name.encode()
                      for i, name in enumerate(LANGUAGES)},
         "config_file": CONFIGS,
