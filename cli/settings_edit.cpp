@@ -171,20 +171,18 @@ std::vector<std::string> SettingsEdit::Lines() const {
 }
 
 std::function<bool(SASM::SettingsManager&)> SettingsEdit::Application() const {
-  return [domain = domain_,
-          changes = KeyChanges()](SASM::SettingsManager& manager) {
-    SettingsDictionary* settings =
-        manager.EnsureSettingsAreLoadedForDomain(domain);
-    if (!settings) return false;
+  const auto make_changes = [changes = KeyChanges()](SettingsDictionary& all) {
     for (const KeyChange& change : changes) {
       if (change.value) {
-        settings->insert(change.key, *change.value);
+        all.insert(change.key, *change.value);
         continue;
       }
-      const auto found = settings->find(change.key);
-      if (found != settings->end()) settings->erase(found);
+      const auto found = all.find(change.key);
+      if (found != all.end()) all.erase(found);
     }
-    return manager.SynchronizeSettingsForDomain(domain);
+  };
+  return [domain = domain_, make_changes](SASM::SettingsManager& manager) {
+    return manager.ChangeSettings(domain, make_changes);
   };
 }
 

@@ -209,6 +209,15 @@ bool SettingsManager::SetSetting(SettingDataItem* item, const SimpleString& key,
   return SynchronizeSettingsForDomain(domain);
 }
 
+bool SettingsManager::ChangeSettings(
+    const SimpleString& domain,
+    const std::function<void(SettingsDictionary&)>& change) {
+  SettingsDictionary* dictionary = DictionaryToChange(domain);
+  if (!dictionary) return false;
+  change(*dictionary);
+  return SynchronizeSettingsForDomain(domain);
+}
+
 bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
                                            const SimpleString& domain) {
   SettingsDictionary* dictionary = DictionaryToChange(domain);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -82,6 +83,11 @@ class SettingsManager {
   // Stores a copy of the item and writes; the result of the write.
   bool SetSetting(SettingDataItem* item, const SimpleString& key,
                   const SimpleString& domain);
+  // Lets `change` change the domain's dictionary and writes once; the result of
+  // the write. False, without a call, for a name that is no site's and when it
+  // is not known what the file holds.
+  bool ChangeSettings(const SimpleString& domain,
+                      const std::function<void(SettingsDictionary&)>& change);
   // Removes the key and writes, also when it was absent; the result of the
   // write.
   bool RemoveSettingWithKey(const SimpleString& key,
