@@ -5,7 +5,6 @@
 // then the bytes) and a content (a size of two bytes, little-endian, then the
 // bytes). See Record.
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -15,46 +14,22 @@
 #include <vector>
 
 #include "fuzz/fuzz_target.h"
-#include "platform/linux_file_manager.h"
 #include "store/default_settings.h"
 #include "store/settings_manager.h"
+#include "tests/support/home_file_manager.h"
+#include "tests/support/temporary_home.h"
 
 using SASM::SimpleString;
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char kSys[] = "tessary.example/support/corvaneplayer/sys";
+// A directory beside those of the store.
 constexpr char kPrecious[] = "precious";
 
-// The directories of the run instead of the user's.
-class RunFileManager : public LinuxFileManager {
- public:
-  explicit RunFileManager(const fs::path& root)
-      : base_((root / "base").c_str()), cache_((root / "cache").c_str()) {}
-  const SimpleString& GetAssetCacheDirectory() const override { return cache_; }
-  const SimpleString& GetUserSettingsBaseDirectory() const override {
-    return base_;
-  }
-  const SimpleString& GetDRMLicenseDataDirectory() const override {
-    return cache_;
-  }
-
- private:
-  SimpleString base_;
-  SimpleString cache_;
-};
-
-const fs::path& Root() {
-  static const fs::path root = [] {
-    std::string pattern = fs::is_directory("/dev/shm") ? "/dev/shm" : "/tmp";
-    pattern += "/fuzz-store-XXXXXX";
-    Require(mkdtemp(pattern.data()), "there is a directory for the run");
-    // Removed at the end, if there is an end.
-    std::atexit([] { fs::remove_all(Root()); });
-    return fs::path(pattern);
-  }();
-  return root;
+TemporaryHome& Home() {
+  static TemporaryHome home;  // removed at the end, if there is an end
+  return home;
 }
 
 void Write(const fs::path& file, const std::string& bytes) {
@@ -70,13 +45,14 @@ std::string Read(const fs::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// What lies outside of the store's own directories: names and contents.
+// What is outside of the store's own directories: names and contents.
 std::vector<std::string> Outside() {
   std::vector<std::string> found;
-  for (auto entry = fs::recursive_directory_iterator(Root());
+  for (auto entry = fs::recursive_directory_iterator(Home().Path());
        entry != fs::recursive_directory_iterator(); ++entry) {
-    const fs::path path = entry->path().lexically_relative(Root());
-    if (path == fs::path("base") / kSys || path == "base/#SharedObjects") {
+    const fs::path path = entry->path().lexically_relative(Home().Path());
+    if (path == TemporaryHome::kSettings ||
+        path == TemporaryHome::kSharedObjects) {
       entry.disable_recursion_pending();
     } else if (entry->is_regular_file()) {
       found.push_back(path.string() + ": " + Read(entry->path()));
@@ -140,7 +116,7 @@ std::string EntryName(const std::string& site) {
 }
 
 void Prepare(const Record& record) {
-  const fs::path sys = Root() / "base" / kSys;
+  const fs::path sys = Home().Path() / TemporaryHome::kSettings;
   const fs::path directory = sys / EntryName(record.site);
   const fs::path file = directory / "settings.sol";
   std::error_code ignored;
@@ -154,7 +130,7 @@ void Prepare(const Record& record) {
     case Record::kSiteFile:
       return Write(file, record.content);
     case Record::kStoredData:
-      return Write(Root() / "base/#SharedObjects/X7" /
+      return Write(Home().Path() / TemporaryHome::kSharedObjects / "X7" /
                        EntryName(record.site).substr(1) / "data.sol",
                    record.content);
     case Record::kPipe:
@@ -163,10 +139,12 @@ void Prepare(const Record& record) {
     case Record::kDirectory:
       return Write(file / "inside", record.content);
     case Record::kLinkToPrecious:
-      fs::create_directory_symlink(Root() / kPrecious, directory, ignored);
+      fs::create_directory_symlink(Home().Path() / kPrecious, directory,
+                                   ignored);
       return;
     case Record::kLinkedFile:
-      fs::create_symlink(Root() / kPrecious / "settings.sol", file, ignored);
+      fs::create_symlink(Home().Path() / kPrecious / "settings.sol", file,
+                         ignored);
       return;
     case Record::kAction:
     case Record::kKindCount:
@@ -225,7 +203,7 @@ void TouchAllSites(SASM::SettingsManager* manager) {
   }
 }
 
-void RequireUsableStore(RunFileManager* files) {
+void RequireUsableStore(HomeFileManager* files) {
   SASM::SettingsManager manager(files);
   const SimpleString& master = SASM::SettingsManager::MasterDomain();
   for (const auto& row : SASM::DefaultMasterSettings()) {
@@ -239,21 +217,21 @@ void RequireUsableStore(RunFileManager* files) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
                                       std::size_t size) {
-  for (const auto& entry : fs::directory_iterator(Root())) {
+  for (const auto& entry : fs::directory_iterator(Home().Path())) {
     fs::remove_all(entry.path());
   }
-  Write(Root() / kPrecious / "settings.sol", "precious");
-  Write(Root() / kPrecious / "data.sol", "precious");
-  Write(Root() / "base/keep/settings.sol", "keep");
-  fs::create_directories(Root() / "base" / kSys);
-  fs::create_directories(Root() / "base/#SharedObjects");
+  Write(Home().Path() / kPrecious / "settings.sol", "precious");
+  Write(Home().Path() / kPrecious / "data.sol", "precious");
+  Write(Home().Path() / ".orbelline/Corvane_Player/keep/settings.sol", "keep");
+  fs::create_directories(Home().Path() / TemporaryHome::kSettings);
+  fs::create_directories(Home().Path() / TemporaryHome::kSharedObjects);
   std::vector<Record> records;
   RecordReader reader(data, size);
   for (Record record; reader.Next(&record);) records.push_back(record);
   for (const Record& record : records) Prepare(record);
   const std::vector<std::string> outside = Outside();
 
-  RunFileManager files(Root());
+  HomeFileManager files(Home());
   {
     SASM::SettingsManager manager(&files);
     TouchAllSites(&manager);
