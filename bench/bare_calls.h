@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-// unlink, open, write, close.
+// unlink, open to create, write, close.
 void RewriteFile(const char* path, const char* bytes, std::size_t size);
 // open, read, close; the number of bytes.
 std::size_t ReadFile(const char* path, std::vector<char>* buffer);

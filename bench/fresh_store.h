@@ -1,4 +1,4 @@
-// A store that is opened anew.
+// A store that is opened again.
 #pragma once
 
 #include <memory>

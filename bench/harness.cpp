@@ -8,8 +8,20 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 
 namespace {
+
+constexpr std::size_t kFewestRounds = 5;
+constexpr std::size_t kMostRounds = 41;
+constexpr double kEnoughSeconds = 1.0;  // of all rounds
+
+struct Sample {
+  double cpu = 0;
+  double wall = 0;
+};
+// A sample of each side.
+using Round = std::vector<Sample>;
 
 double Seconds(const timeval& time) {
   return static_cast<double>(time.tv_sec) +
@@ -51,68 +63,75 @@ std::size_t PeakOf(const std::function<void()>& run) {
   return peak > before ? peak - before : 0;
 }
 
-double Median(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<long>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
+// The first round warms up and gives the peak.
+std::size_t WarmUp(const std::vector<Side>& sides) {
+  std::size_t panel_peak = 0;
+  for (const Side& side : sides) {
+    side.prepare();
+    const std::size_t peak = PeakOf(side.run);
+    if (side.name == kPanel) panel_peak = peak;
+  }
+  return panel_peak;
+}
+
+Sample Run(const Side& side) {
+  side.prepare();
+  const Sample start = Now();
+  side.run();
+  const Sample end = Now();
+  return {end.cpu - start.cpu, end.wall - start.wall};
+}
+
+std::vector<Round> RunRounds(const std::vector<Side>& sides) {
+  std::vector<Round> rounds;
+  double spent = 0;
+  while (rounds.size() < kFewestRounds ||
+         (rounds.size() < kMostRounds && spent < kEnoughSeconds)) {
+    Round round(sides.size());
+    for (std::size_t turn = 0; turn < sides.size(); ++turn) {
+      const std::size_t i = (turn + rounds.size()) % sides.size();
+      round[i] = Run(sides[i]);
+      spent += round[i].wall;
+    }
+    rounds.push_back(round);
+  }
+  return rounds;
 }
 
 template <typename Value>
-double MedianOf(const std::vector<std::vector<Sample>>& rounds, Value value) {
+double MedianOf(const std::vector<Round>& rounds, Value value) {
   std::vector<double> values;
-  values.reserve(rounds.size());
-  for (const auto& round : rounds) values.push_back(value(round));
-  return Median(values);
+  std::ranges::transform(rounds, std::back_inserter(values), value);
+  const auto middle = values.begin() + static_cast<long>(values.size() / 2);
+  std::ranges::nth_element(values, middle);
+  return *middle;
 }
 
 }  // namespace
 
-void Print(const Subject& subject, const std::vector<std::string>& sides,
-           const std::vector<std::vector<Sample>>& rounds,
-           std::size_t peak_bytes) {
-  std::printf("{\"subject\":\"%s\",\"size\":%zu,\"peak\":%zu,\"sides\":[",
-              subject.name.c_str(), subject.size, peak_bytes);
+void Measure(const Subject& subject, const std::vector<Side>& sides) {
+  const std::size_t peak_bytes = WarmUp(sides);
+  const std::vector<Round> rounds = RunRounds(sides);
+  std::printf(
+      "{\"subject\":\"%s\",\"size\":%zu,\"peak\":%zu,\"wall\":%.9f,"
+      "\"sides\":[",
+      subject.name.c_str(), subject.size, peak_bytes,
+      MedianOf(rounds, [](const Round& r) { return r[0].wall; }));
   for (std::size_t i = 0; i < sides.size(); ++i) {
-    const double cpu = MedianOf(rounds, [i](auto& r) { return r[i].cpu; });
-    const double wall = MedianOf(rounds, [i](auto& r) { return r[i].wall; });
-    const double ratio =
-        MedianOf(rounds, [i](auto& r) { return r[0].cpu / r[i].cpu; });
-    const double wall_ratio =
-        MedianOf(rounds, [i](auto& r) { return r[0].wall / r[i].wall; });
     std::printf(
-        "%s{\"name\":\"%s\",\"cpu\":%.9f,\"wall\":%.9f,\"ratio\":%.4f,"
-        "\"wall_ratio\":%.4f}",
-        i ? "," : "", sides[i].c_str(), cpu, wall, ratio, wall_ratio);
+        "%s{\"name\":\"%s\",\"cpu\":%.9f,\"ratio\":%.4f}", i ? "," : "",
+        sides[i].name.c_str(),
+        MedianOf(rounds, [i](const Round& r) { return r[i].cpu; }),
+        MedianOf(rounds, [i](const Round& r) { return r[0].cpu / r[i].cpu; }));
   }
   std::puts("]}");
   std::fflush(stdout);
 }
 
-void Measure(const Subject& subject, const std::vector<Side>& sides) {
-  std::vector<std::string> names;
-  names.reserve(sides.size());
-  for (const Side& side : sides) names.push_back(side.name);
-  // The first round warms up and gives the peak.
-  std::size_t peak_bytes = 0;
-  for (const Side& side : sides) {
-    side.prepare();
-    const std::size_t peak = PeakOf(side.run);
-    if (side.name == kPanel) peak_bytes = peak;
-  }
-  std::vector<std::vector<Sample>> rounds;
-  for (int round = 0; round < subject.rounds; ++round) {
-    std::vector<Sample> samples(sides.size());
-    for (std::size_t turn = 0; turn < sides.size(); ++turn) {
-      const std::size_t i = (turn + rounds.size()) % sides.size();
-      sides[i].prepare();
-      const Sample start = Now();
-      sides[i].run();
-      const Sample end = Now();
-      samples[i] = {end.cpu - start.cpu, end.wall - start.wall};
-    }
-    rounds.push_back(samples);
-  }
-  Print(subject, names, rounds, peak_bytes);
+std::function<void()> Times(std::size_t count, std::function<void()> run) {
+  return [count, run = std::move(run)] {
+    for (std::size_t i = 0; i < count; ++i) run();
+  };
 }
 
 void Check(bool success, const char* step) {

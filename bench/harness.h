@@ -20,25 +20,20 @@ inline constexpr char kFloor[] = "floor";
 struct Subject {
   std::string name;
   std::size_t size;
-  // In a round each side runs once, in an order that rotates.
-  int rounds = 7;
 };
 
-// Runs the sides and prints a line of JSON: of each side the medians of its
-// processor time (its own and that of processes it waited for) and of its
-// wall time in seconds, and of the panel the peak memory in bytes above what
-// was resident before. The ratios are medians of each round's own.
+// Runs the sides in rounds, in each of which every side runs once, and prints a
+// line of JSON: of each side the median of its processor time in seconds, its
+// own and that of processes it waited for, and the median over the rounds of
+// the panel's time divided by the side's; of the panel also the median of its
+// wall time, and the peak of its memory in bytes above what was resident
+// before. The sides take turns at being first. The shorter a round, the more
+// there are.
 void Measure(const Subject& subject, const std::vector<Side>& sides);
 
-// The same line for sides measured elsewhere: in `rounds`, the seconds of
-// each side in the order of `sides`.
-struct Sample {
-  double cpu = 0;
-  double wall = 0;
-};
-void Print(const Subject& subject, const std::vector<std::string>& sides,
-           const std::vector<std::vector<Sample>>& rounds,
-           std::size_t peak_bytes);
+// `run`, so many times.
+[[nodiscard]] std::function<void()> Times(std::size_t count,
+                                          std::function<void()> run);
 
 // Ends the program, saying which step failed.
 void Check(bool success, const char* step);

@@ -82,7 +82,7 @@ void ShowWindow(const std::string& home, std::size_t count) {
   char** argv = nullptr;
   GnomeTCCapplet* panel = StartWithoutStore(&argc, &argv);
   const MadeSites sites = ReadAll(home, count);
-  FillBare(FindStorageList(panel), sites.names, sites.paths);
+  FillBare(FindSiteList(panel, kStorageList), sites.names, sites.paths);
   gtk_widget_show(panel->window);
   gtk_main();
 }

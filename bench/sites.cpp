@@ -20,13 +20,11 @@ class SiteWindow {
  public:
   SiteWindow(int* argc, char*** argv)
       : panel_(StartWithoutStore(argc, argv)),
-        camera_(FindCameraList(panel_)),
-        storage_(FindStorageList(panel_)) {
+        camera_(FindSiteList(panel_, kCameraList)),
+        storage_(FindSiteList(panel_, kStorageList)) {
     gtk_widget_show(panel_->window);
-    for (const char* dialog :
-         {"storage_by_site_dialog", "cam_and_mic_by_site_dialog",
-          "p2p_by_site_dialog"}) {
-      gtk_widget_show(get_widget(panel_->builder, dialog));
+    for (const List& list : kLists) {
+      gtk_widget_show(get_widget(panel_->builder, list.dialog));
     }
     RunToIdle();
   }
@@ -47,7 +45,7 @@ class SiteWindow {
   }
   void MeasureMemory(const SiteHome& home);
   void MeasureFirstFill(const SiteHome& home);
-  void MeasureRefill(const char* subject, const SiteList& list,
+  void MeasureRefill(const char* subject, int page, const SiteList& list,
                      const SiteHome& home);
   void MeasureSortedRefill(const SiteHome& home);
   void MeasureChange(const SiteHome& home);
@@ -68,9 +66,8 @@ void SiteWindow::MeasureMemory(const SiteHome& home) {
   };
   const auto empty_all = [this] {
     CloseStore();
-    for (const char* store :
-         {"site_storage_list", "site_privacy_list", "site_p2p_list"}) {
-      gtk_list_store_clear(get_list_store(panel_->builder, store));
+    for (const List& list : kLists) {
+      gtk_list_store_clear(get_list_store(panel_->builder, list.store));
     }
     RunToIdle();
   };
@@ -96,10 +93,10 @@ void SiteWindow::MeasureFirstFill(const SiteHome& home) {
             gdk_flush}});
 }
 
-void SiteWindow::MeasureRefill(const char* subject, const SiteList& list,
-                               const SiteHome& home) {
+void SiteWindow::MeasureRefill(const char* subject, int page,
+                               const SiteList& list, const SiteHome& home) {
   Measure({subject, home.Sites().size()},
-          {{kPanel, [&] { Fill(list.page); }, gdk_flush},
+          {{kPanel, [&] { Fill(page); }, gdk_flush},
            {kFloor, [&] { FillFloor(list, home); }, gdk_flush}});
 }
 
@@ -155,8 +152,8 @@ void SiteWindow::MeasureAll(const SiteHome& home) {
   MeasureMemory(home);
   MeasureFirstFill(home);
   OpenStore(panel_);
-  MeasureRefill("refill", camera_, home);
-  MeasureRefill("refill with sizes", storage_, home);
+  MeasureRefill("refill", kPrivacyPage, camera_, home);
+  MeasureRefill("refill with sizes", kStoragePage, storage_, home);
   MeasureSortedRefill(home);
   MeasureChange(home);
 }
@@ -168,14 +165,15 @@ void SiteWindow::MeasureRemoval(const SiteHome& home) {
     OpenStore(panel_);
     Fill(kStoragePage);
   };
+  GtkWidget* remove =
+      get_widget(panel_->builder, kLists[kStorageList].remove_button);
   Measure({"all sites removed in the window", home.Sites().size()},
           {{kPanel,
             [&] {
               gtk_tree_selection_select_all(
                   gtk_tree_view_get_selection(storage_.view));
-              gtk_widget_set_sensitive(GTK_WIDGET(storage_.remove_button),
-                                       TRUE);
-              gtk_button_clicked(storage_.remove_button);
+              gtk_widget_set_sensitive(remove, TRUE);
+              gtk_button_clicked(GTK_BUTTON(remove));
               RunToIdle();
             },
             restore},

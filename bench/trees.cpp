@@ -5,8 +5,8 @@
 
 #include "bench/bare_calls.h"
 #include "bench/harness.h"
-#include "bench/private_home.h"
 #include "platform/linux_file_manager.h"
+#include "tests/support/temporary_home.h"
 
 namespace {
 
@@ -53,7 +53,7 @@ void MeasureRemoval(const Shape& shape, std::size_t size,
   const auto make = [&] { shape.make(path, size); };
   LinuxFileManager files;
   Measure(
-      {std::string("tree removed, ") + shape.name, size, 5},
+      {std::string("tree removed, ") + shape.name, size},
       {{kPanel, [&] { Check(files.RemoveFileAtPath(path.c_str()), "remove"); },
         make},
        {kFloor, [&] { RemoveTree(path); }, make},
@@ -83,7 +83,7 @@ void MeasureSize(const Shape& shape, std::size_t size,
 }  // namespace
 
 int main() {
-  const PrivateHome home;
+  const TemporaryHome home;
   const std::string path = home / "tree";
   for (const Shape& shape : kShapes) {
     for (const std::size_t size : shape.sizes) {

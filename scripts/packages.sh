@@ -59,18 +59,21 @@ test_packages=(
 
 # To measure: bench/run.
 bench_packages=(
-  bsdextrautils     # aligns the columns of the table
-  gettext           # measured beside the panel's table of texts
-  jq                # joins the figures of all programs
-  libbenchmark-dev  # measures calls of less than a microsecond
-  libsqlite3-dev    # measured beside the panel's settings files
-  strace            # counts system calls
+  bsdextrautils   # aligns the columns of the table
+  gettext         # measured beside the panel's table of texts
+  jq              # joins the figures of all programs
+  libgmock-dev    # used by the tests' home directory
+  libgtest-dev    # likewise
+  libsqlite3-dev  # measured beside the panel's settings files
+  strace          # counts system calls
 )
 
 # To search for faults: fuzz/run and scripts/valgrind.
 search_packages=(
   clang-14            # compiles the fuzz programs
   libclang-rt-14-dev  # the fuzzing library
+  libgmock-dev        # used by the tests' home directory
+  libgtest-dev        # likewise
   llvm-14             # shows which lines the inputs reach
   python3             # makes the seeds of the fuzz programs
   valgrind            # watches the memory of the tests
