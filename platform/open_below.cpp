@@ -7,18 +7,22 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
 namespace {
 
-FileDescriptor OpenInOneCall(int trusted, const char* way) {
+FileDescriptor OpenWithoutLinks(int directory, const char* path,
+                                std::uint64_t more_restrictions = 0) {
   open_how how = {};
   how.flags = kPlaceFlags;
-  how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
+  how.resolve = RESOLVE_NO_SYMLINKS | more_restrictions;
   // The C library has no function for it.
-  return FileDescriptor(static_cast<int>(RetryInterrupted(
-      [&] { return syscall(SYS_openat2, trusted, way, &how, sizeof how); })));
+  return FileDescriptor(static_cast<int>(RetryInterrupted([&] {
+    return syscall(SYS_openat2, directory, path, &how, sizeof how);
+  })));
 }
 
 // For kernels before 5.6 and sandboxes that forbid openat2(2).
@@ -45,10 +49,18 @@ bool IsNoAnswer(int error) {
 }  // namespace
 
 FileDescriptor OpenBelow(const char* trusted, const char* way) {
+  // Common case: no link leads to `trusted` either.
+  if (!std::strstr(way, "..")) {
+    const std::string path = std::string(trusted) + "/" + way;
+    FileDescriptor reached = OpenWithoutLinks(AT_FDCWD, path.c_str());
+    if (reached.IsOpen() || (errno != ELOOP && !IsNoAnswer(errno))) {
+      return reached;
+    }
+  }
   FileDescriptor top = OpenPlace(AT_FDCWD, trusted);
   while (*way == '/') ++way;
   if (!top.IsOpen() || !*way) return top;
-  FileDescriptor reached = OpenInOneCall(top.Get(), way);
+  FileDescriptor reached = OpenWithoutLinks(top.Get(), way, RESOLVE_BENEATH);
   if (reached.IsOpen() || !IsNoAnswer(errno)) return reached;
   return OpenByComponents(std::move(top), way);
 }
