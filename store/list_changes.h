@@ -1,8 +1,10 @@
 // Changes of the list of domains that wait to be written.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_set>
 
 #include "store/settings_manager.h"
@@ -12,6 +14,12 @@ namespace SASM {
 // What a ListWriteGuard holds back.
 class SettingsManager::ListChanges {
  public:
+  // Searched without making a string of what is searched for.
+  struct Hash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
+  using Names = std::unordered_multiset<std::string, Hash, std::equal_to<>>;
+
   // True for a listed site that is not to be removed. `domains` is the list.
   [[nodiscard]] bool IsListed(const SimpleString& site,
                               const SDIVector& domains);
@@ -28,9 +36,9 @@ class SettingsManager::ListChanges {
 
  private:
   // The names that the list will have; made when they are first asked for.
-  std::optional<std::unordered_multiset<std::string>> names_;
+  std::optional<Names> names_;
   // A name for each element that is to be removed.
-  std::unordered_multiset<std::string> removed_;
+  Names removed_;
   bool is_changed_ = false;
 };
 

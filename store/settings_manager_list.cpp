@@ -12,8 +12,8 @@ namespace SASM {
 namespace {
 
 // False when there is none.
-bool EraseOne(const std::string& name,
-              std::unordered_multiset<std::string>* names) {
+template <typename Names>
+bool EraseOne(std::string_view name, Names* names) {
   const auto found = names->find(name);
   if (found == names->end()) return false;
   names->erase(found);
@@ -31,7 +31,7 @@ bool SettingsManager::ListChanges::IsListed(const SimpleString& site,
     }
     for (const std::string& name : removed_) EraseOne(name, &*names_);
   }
-  return names_->contains(site.c_str());
+  return names_->contains(std::string_view(site.c_str()));
 }
 
 void SettingsManager::ListChanges::NoteAppended(const SimpleString& site) {
