@@ -1,6 +1,7 @@
 #include "app/list_contents.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "app/list_sorting.h"
 #include "app/widget_helpers.h"
 #include "model/storage_setting.h"
+#include "platform/tree_size.h"
 #include "store/setting_keys.h"
 
 using SASM::SettingsDictionary;
@@ -16,7 +18,7 @@ using SASM::SimpleString;
 namespace {
 
 struct UsedSpace {
-  char text[StorageSetting::kSpaceTextSize];
+  std::string text;
   guint bytes;  // the low 32 bits, by which the column is sorted
 };
 
@@ -76,11 +78,9 @@ class DetachedList {
 };
 
 UsedSpace MeasureSpace(const SimpleString& site) {
-  StorageSetting setting(SASM::kStorageLimit, site);
-  UsedSpace used;
-  setting.formatSpaceUsed(used.text, sizeof used.text);
-  used.bytes = static_cast<guint>(static_cast<guint64>(setting.spaceUsed()));
-  return used;
+  const double bytes = StorageSetting(SASM::kStorageLimit, site).spaceUsed();
+  return {StorageSetting::TextOfSpace(bytes),
+          static_cast<guint>(static_cast<guint64>(bytes))};
 }
 
 std::vector<Row> ReadNames(const SASM::SDIVector& names) {
@@ -96,6 +96,7 @@ std::vector<Row> ReadSites(GnomeTCCapplet* panel, const List& list,
   const SettingsDictionary* master = master_settings(panel);
   const bool are_blocked = IsBlockedEverywhere(*list.permission, master);
   const bool have_sizes = FindColumn(list, Content::kUsedSpace);
+  const SharedMeasurement measurement;
   std::vector<Row> rows = ReadNames(sites);
   for (unsigned int i = 0; i < sites.count; ++i) {
     const SimpleString& site = sites.At(i)->name;
@@ -175,7 +176,7 @@ void SetCells(GnomeTCCapplet* panel, const Column& column, const Row& row,
     case Content::kLocation:
       return cells->SetText(column.text_column, row.name);
     case Content::kUsedSpace:
-      cells->SetText(column.text_column, row.used.text);
+      cells->SetText(column.text_column, row.used.text.c_str());
       return cells->SetUint(column.sort_column, row.used.bytes);
     case Content::kPermission:
       cells->SetText(column.text_column,
