@@ -1,6 +1,7 @@
 // Deletes all site data and the licence files.
 #include <string>
 
+#include "app/busy_pointer.h"
 #include "app/dialogs.h"
 #include "app/notebook_pages.h"
 #include "platform/drm_license_manager.h"
@@ -23,11 +24,15 @@ void DeleteLicences(GnomeTCCapplet* panel) {
   if (!licences.Reset()) ShowUnableToDelete(panel, 11502, 41100);
 }
 
-void DeleteSiteData(GnomeTCCapplet* panel) {
+bool RemoveSiteData(GnomeTCCapplet* panel) {
+  const BusyPointer busy;
   const bool sites_removed =
       panel->settings->RemoveAllSettingsAndOrLocalStorage(true, true);
-  const bool cache_removed = panel->settings->RemoveAssetCache();
-  if (!sites_removed || !cache_removed) ShowUnableToDelete(panel, 11501, 21000);
+  return panel->settings->RemoveAssetCache() && sites_removed;
+}
+
+void DeleteSiteData(GnomeTCCapplet* panel) {
+  if (!RemoveSiteData(panel)) ShowUnableToDelete(panel, 11501, 21000);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The radio buttons on the pages, which set a permission for all sites, and
 // the buttons that open dialogs.
+#include "app/busy_pointer.h"
 #include "app/dialogs.h"
 #include "app/lists.h"
 #include "app/notebook_pages.h"
@@ -9,6 +10,7 @@ namespace {
 
 void SetForAllSites(GnomeTCCapplet* panel, PermissionKind permission,
                     PermissionState state) {
+  const BusyPointer busy(panel);
   // Data that could not be deleted is still in the list when it is refilled.
   (void)SetGlobalState(kPermissions[permission], state);
   update_notebook_page(panel, kCurrentPage);

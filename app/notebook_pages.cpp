@@ -1,5 +1,6 @@
 #include "app/notebook_pages.h"
 
+#include "app/busy_pointer.h"
 #include "app/list_contents.h"
 #include "app/widget_helpers.h"
 
@@ -77,5 +78,6 @@ void update_notebook_page(GnomeTCCapplet* panel, int page) {
 
 extern "C" G_MODULE_EXPORT void on_tessary_corvane_notebook_switch_page(
     GtkNotebook*, gpointer, guint page, GnomeTCCapplet* panel) {
+  const BusyPointer busy(panel);
   update_notebook_page(panel, static_cast<int>(page));
 }

@@ -1,6 +1,7 @@
 // The handlers of the three site dialogs.
 #include "app/site_dialogs.h"
 
+#include "app/busy_pointer.h"
 #include "app/list_selection.h"
 #include "app/lists.h"
 #include "app/notebook_pages.h"
@@ -59,6 +60,7 @@ void SetSelected(GnomeTCCapplet* panel, const List& list,
   PermissionState state = get_choice_state(choices, choice);
   g_object_unref(choices);
   ChosenState chosen = {panel, &state};
+  const BusyPointer busy(panel);
   ForEachSelectedSite(panel, list.tree_view, row_callback, &chosen);
   update_notebook_page(panel, kCurrentPage);
 }
@@ -134,6 +136,7 @@ void delete_domain_cb(GtkTreeModel* model, GtkTreePath*, GtkTreeIter* row,
 
 // Removes every selected site, with all its data.
 void delete_selected_domains(GnomeTCCapplet* panel, const char* tree_view_id) {
+  const BusyPointer busy(panel);
   ForEachSelectedSite(panel, tree_view_id, delete_domain_cb, panel);
   update_notebook_page(panel, kCurrentPage);
 }
