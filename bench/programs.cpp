@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <filesystem>
 
 #include "bench/bare_calls.h"
 #include "bench/harness.h"
@@ -15,9 +16,8 @@
 namespace {
 
 constexpr std::size_t kSizes[] = {0, 1000, 10000, 100000};
-// Arguments with which this program stands in for one of the two.
-constexpr char kWindowFloor[] = "--window-floor";
-constexpr char kReadFloor[] = "--read-floor";
+// With HOME and COUNT behind it, makes this program the floor of a start.
+constexpr char kAsFloor[] = "--as-floor";
 
 // Sees every window of the display.
 class WindowWatch {
@@ -58,31 +58,29 @@ void RunToShownWindow(WindowWatch* watch, std::vector<std::string> arguments) {
   watch->Forget();
 }
 
-// What was made in the home directory by the process that started this one.
-struct MadeSites {
-  SiteHome::Names names;
-  std::vector<SiteHome::Paths> paths;
-};
-
-MadeSites ReadAll(const std::string& home, std::size_t count) {
-  MadeSites sites = {SiteHome::NamesOf(count), {}};
-  std::vector<char> buffer(16 << 20);
-  ReadFile((home + "/" + SiteHome::MasterFile()).c_str(), &buffer);
-  for (const std::string& site : sites.names) {
-    sites.paths.push_back(SiteHome::PathsOf(home, site));
-    ReadFile(sites.paths.back().settings_file.c_str(), &buffer);
+void ReadAll(const std::string& master,
+             const std::vector<SiteHome::Paths>& sites) {
+  std::vector<char> buffer(65536 + std::filesystem::file_size(master));
+  ReadFile(master.c_str(), &buffer);
+  for (const SiteHome::Paths& site : sites) {
+    ReadFile(site.settings_file.c_str(), &buffer);
   }
-  return sites;
 }
 
 // A start of the toolkit that reads the same files, measures the same
-// directories and fills the same list.
+// directories and fills the same list, of sites that the process which started
+// this one has made.
 void ShowWindow(const std::string& home, std::size_t count) {
   int argc = 0;
   char** argv = nullptr;
   GnomeTCCapplet* panel = StartWithoutStore(&argc, &argv);
-  const MadeSites sites = ReadAll(home, count);
-  FillBare(FindSiteList(panel, kStorageList), sites.names, sites.paths);
+  const SiteHome::Names sites = SiteHome::NamesOf(count);
+  std::vector<SiteHome::Paths> paths;
+  for (const std::string& site : sites) {
+    paths.push_back(SiteHome::PathsOf(home, site));
+  }
+  ReadAll(home + "/" + SiteHome::MasterFile(), paths);
+  FillBare(FindSiteList(panel, kStorageList), sites, paths);
   gtk_widget_show(panel->window);
   gtk_main();
 }
@@ -91,39 +89,32 @@ void MeasureWindow(const std::string& panel, const std::string& self,
                    const SiteHome& home) {
   static WindowWatch watch;
   const std::string count = std::to_string(home.Sites().size());
-  Measure(
-      {"start to first shown window", home.Sites().size()},
-      {{kPanel, [&] { RunToShownWindow(&watch, {panel}); }},
-       {kFloor, [&] {
-          RunToShownWindow(&watch, {self, kWindowFloor, home.Path(), count});
-        }}});
-}
-
-void MeasureCommand(const std::vector<std::string>& command,
-                    const std::string& self, const SiteHome& home) {
-  const std::string count = std::to_string(home.Sites().size());
-  Measure({command.back(), home.Sites().size()},
-          {{kPanel, [&] { RunProgram(command); }},
+  Measure({"start to first shown window", home.Sites().size()},
+          {{kPanel, [&] { RunToShownWindow(&watch, {panel}); }},
            {kFloor, [&] {
-              RunProgram({self, kReadFloor, home.Path(), count});
+              RunToShownWindow(&watch, {self, kAsFloor, home.Path(), count});
             }}});
 }
 
-void StandIn(const std::string& floor, const std::string& home,
-             std::size_t count) {
-  if (floor == kWindowFloor) return ShowWindow(home, count);
-  std::size_t bytes = 0;
-  for (const SiteHome::Paths& site : ReadAll(home, count).paths) {
-    bytes += SizeOfTree(site.storage);
-  }
-  Check(count == 0 || bytes > 0, "sizes");
+void MeasureCommand(const char* subject,
+                    const std::vector<std::string>& command,
+                    const SiteHome& home) {
+  Measure({subject, home.Sites().size()},
+          {{kPanel, [&] { RunProgram(command); }},
+           {kFloor, [&] {
+              RunProgram({"true"});
+              ReadAll(home.MasterPath(), home.SitePaths());
+              for (const SiteHome::Paths& site : home.SitePaths()) {
+                (void)SizeOfTree(site.storage);
+              }
+            }}});
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 4) {
-    StandIn(argv[1], argv[2], std::stoul(argv[3]));
+  if (argc == 4 && std::strcmp(argv[1], kAsFloor) == 0) {
+    ShowWindow(argv[2], std::stoul(argv[3]));
     return EXIT_SUCCESS;
   }
   Check(argc == 3, "Usage: bench_programs PANEL SETTINGS");
@@ -131,7 +122,7 @@ int main(int argc, char** argv) {
   for (const std::size_t size : kSizes) {
     home.MakeSites(size);
     MeasureWindow(argv[1], argv[0], home);
-    MeasureCommand({argv[2], "show"}, argv[0], home);
-    MeasureCommand({argv[2], "show", "--json"}, argv[0], home);
+    MeasureCommand("settings shown", {argv[2], "show"}, home);
+    MeasureCommand("settings shown as JSON", {argv[2], "show", "--json"}, home);
   }
 }

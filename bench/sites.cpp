@@ -167,7 +167,7 @@ void SiteWindow::MeasureRemoval(const SiteHome& home) {
   };
   GtkWidget* remove =
       get_widget(panel_->builder, kLists[kStorageList].remove_button);
-  Measure({"all sites removed in the window", home.Sites().size()},
+  Measure({"all sites removed in window", home.Sites().size()},
           {{kPanel,
             [&] {
               gtk_tree_selection_select_all(
