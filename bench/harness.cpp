@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t kFewestRounds = 5;
+constexpr std::size_t kFewestRounds = 3;
 constexpr std::size_t kMostRounds = 41;
 constexpr double kEnoughSeconds = 1.0;  // of all rounds
 
