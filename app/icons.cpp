@@ -39,7 +39,7 @@ void register_permission_icons() {
   for (const StockIcon& icon : kStockIcons) {
     GdkPixbuf* picture = NewPicture(icon.pixdata);
     GtkIconSet* icon_set = gtk_icon_set_new_from_pixbuf(picture);
-    gtk_icon_factory_add(factory, FindChoice(icon.state)->icon, icon_set);
+    gtk_icon_factory_add(factory, ChoiceOrBlock(icon.state).icon, icon_set);
     gtk_icon_set_unref(icon_set);
     g_object_unref(picture);
   }

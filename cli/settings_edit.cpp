@@ -67,7 +67,7 @@ std::string LimitWord(double limit_kb) {
   }
   if (limit_kb == kUnlimited) return "unlimited";
   return limit_kb > 0 ? Decimal(limit_kb)
-                      : FindChoice(StateOfLimit(limit_kb))->word;
+                      : ChoiceOrBlock(StateOfLimit(limit_kb)).word;
 }
 
 }  // namespace
@@ -136,7 +136,7 @@ std::string SettingsEdit::Word(const Permission& permission,
   }
   const PermissionState state = is_master_ ? GlobalState(permission, &settings)
                                            : StoredState(permission, &settings);
-  return FindChoice(state)->word;
+  return ChoiceOrBlock(state).word;
 }
 
 void SettingsEdit::AddPermissionLine(const Permission& permission,

@@ -40,8 +40,8 @@ std::string UsedText(std::uint64_t bytes) {
 // The state, followed for allowed storage by the limit.
 std::string StateText(const PermissionSettings& settings, PermissionKind kind,
                       StringManager* strings) {
-  const PermissionChoice* choice = FindChoice(settings.states[kind]);
-  std::string text = TextOf(strings, choice->site_text_id);
+  const PermissionChoice& choice = ChoiceOrBlock(settings.states[kind]);
+  std::string text = TextOf(strings, choice.site_text_id);
   if (kind != kStorage) return text;
   const double limit_kb = settings.storage_limit_kb;
   if (limit_kb > 0)
@@ -98,7 +98,7 @@ void PrintLocations(const SDIVector* locations, StringManager* strings) {
 void SetPermissions(const PermissionSettings& settings, json_t* object) {
   for (const Permission& permission : kPermissions) {
     const PermissionState state = settings.states[permission.kind];
-    Set(object, permission.word, json_string(FindChoice(state)->word));
+    Set(object, permission.word, json_string(ChoiceOrBlock(state).word));
   }
   const double limit_kb = settings.storage_limit_kb;
   const char* word = WordOfNumber(limit_kb);

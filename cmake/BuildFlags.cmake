@@ -10,9 +10,9 @@ add_library(build_flags INTERFACE)
 target_compile_features(build_flags INTERFACE cxx_std_20)
 target_include_directories(build_flags INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(build_flags INTERFACE
-  -Wall -Wextra -Wconversion -Wformat=2
-  # Where clang means more by a name than g++ does, g++ is meant.
-  $<IF:$<CXX_COMPILER_ID:Clang>,-Wno-sign-conversion,-Wshadow=local>
+  -Wall -Wextra -Wconversion -Wformat=2 -Wnull-dereference -Wshadow
+  # Clang includes it in -Wconversion, g++ does not.
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>
   $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
 
 # What an attacker must get past, beside being correct.

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,7 @@ void Write(const fs::path& file, const std::string& bytes) {
 
 std::string Read(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  return (std::ostringstream() << stream.rdbuf()).str();
 }
 
 // What is outside of the store's own directories: names and contents.

@@ -3,8 +3,8 @@
 // failure: not every program has inputs that once failed.
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "fuzz/fuzz_target.h"
@@ -17,7 +17,7 @@ int replayed_count = 0;
 
 void Replay(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  const std::string bytes = (std::ostringstream() << file.rdbuf()).str();
   // A copy of exactly this size, so that a read past its end is seen.
   const auto data = std::make_unique<std::uint8_t[]>(bytes.size());
   std::copy(bytes.begin(), bytes.end(), data.get());

@@ -77,7 +77,7 @@ void PutBool(const char* key, bool boolean, SettingsDictionary* dictionary) {
 void PutSiteState(const Permission& permission, PermissionState state,
                   SettingsDictionary* site) {
   if (permission.limit_key) {
-    return PutNumber(permission.limit_key, FindChoice(state)->limit_kb, site);
+    return PutNumber(permission.limit_key, ChoiceOrBlock(state).limit_kb, site);
   }
   PutBool(permission.always_key, AlwaysOf(state), site);
   PutBool(permission.allow_key, AllowOf(state), site);
@@ -86,7 +86,7 @@ void PutSiteState(const Permission& permission, PermissionState state,
 void PutGlobalState(const Permission& permission, PermissionState state,
                     SettingsDictionary* master) {
   if (permission.limit_key) {
-    return PutNumber(permission.global_key, FindChoice(state)->limit_kb,
+    return PutNumber(permission.global_key, ChoiceOrBlock(state).limit_kb,
                      master);
   }
   PutBool(permission.global_key, state == kPermissionStateAlwaysDeny, master);

@@ -71,6 +71,13 @@ inline constexpr PermissionChoice kPermissionChoices[] = {
   return nullptr;
 }
 
+// The same, but the choice of Block where there is none.
+[[nodiscard]] constexpr const PermissionChoice& ChoiceOrBlock(
+    PermissionState state) {
+  const PermissionChoice* choice = FindChoice(state);
+  return choice ? *choice : kPermissionChoices[0];
+}
+
 // Indexes of kPermissions.
 enum PermissionKind : unsigned int { kStorage, kCamera, kNetwork };
 

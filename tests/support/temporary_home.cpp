@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include "tests/support/program_run.h"
 
@@ -41,7 +41,7 @@ void TemporaryHome::Write(const std::string& name,
 std::string TemporaryHome::Read(const std::string& name) const {
   std::ifstream file(path_ / name, std::ios::binary);
   EXPECT_TRUE(file) << name;
-  return {std::istreambuf_iterator<char>(file), {}};
+  return (std::ostringstream() << file.rdbuf()).str();
 }
 
 bool TemporaryHome::Has(const std::string& name) const {
