@@ -151,6 +151,26 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
      "compatible security settings:"},
 };
 
+// Widgets whose texts are those of others, and what tells them apart.
+constexpr struct {
+  const char* id;
+  int string_id;
+} kDescribedWidgets[] = {
+    {"p2p_linkbutton", 41003},         {"drm_linkbutton", 41102},
+    {"compat_linkbutton", 81002},      {"clear_site_storage_button", 71002},
+    {"clear_site_data_button", 51101},
+};
+
+// The radio buttons in a box, and the heading that says what they choose.
+constexpr struct {
+  const char* box;
+  const char* heading;
+} kRadioGroups[] = {
+    {"vbox7", "label12"},
+    {"privacy_settings_vbox", "label1"},
+    {"p2p_settings_vbox1", "p2p_label3"},
+};
+
 void Localize(GnomeTCCapplet* panel, const LocalizedWidget& row) {
   switch (row.kind) {
     case TextKind::kTitle:
@@ -165,12 +185,34 @@ void Localize(GnomeTCCapplet* panel, const LocalizedWidget& row) {
   }
 }
 
+// To the eye and to the ear.
+void Explain(GnomeTCCapplet* panel, const char* widget, int string_id) {
+  set_accessible_description(panel, widget, string_id);
+  gtk_widget_set_tooltip_text(get_widget(panel->builder, widget),
+                              text_or(panel, string_id, nullptr));
+}
+
 void LocalizeLists(GnomeTCCapplet* panel) {
   for (const List& list : kLists) {
     for (const Column& column : list.columns) {
       set_column_title(panel, column.id, column.title_id, column.fallback);
     }
     set_accessible_name(panel, list.tree_view, list.accessible_name_id);
+    Explain(panel, list.tree_view, list.explanation_id);
+    Explain(panel, list.remove_button, list.explanation_id);
+  }
+}
+
+void LabelRadioGroups(GnomeTCCapplet* panel) {
+  for (const auto& group : kRadioGroups) {
+    GtkWidget* heading = get_widget(panel->builder, group.heading);
+    AtkObject* label = gtk_widget_get_accessible(heading);
+    AtkObject* box =
+        gtk_widget_get_accessible(get_widget(panel->builder, group.box));
+    atk_object_set_role(box, ATK_ROLE_PANEL);
+    atk_object_set_name(box, gtk_label_get_text(GTK_LABEL(heading)));
+    atk_object_add_relationship(box, ATK_RELATION_LABELLED_BY, label);
+    atk_object_add_relationship(label, ATK_RELATION_LABEL_FOR, box);
   }
 }
 
@@ -204,4 +246,8 @@ void localize_widgets(GnomeTCCapplet* panel) {
   LocalizePermissionChoices(panel);
   LocalizeLicenceReset(panel);
   NameEntries(panel);
+  for (const auto& row : kDescribedWidgets) {
+    set_accessible_description(panel, row.id, row.string_id);
+  }
+  LabelRadioGroups(panel);
 }

@@ -89,6 +89,14 @@ void set_accessible_name(GnomeTCCapplet* panel, const char* widget_id,
   if (text) atk_object_set_name(accessible, text);
 }
 
+void set_accessible_description(GnomeTCCapplet* panel, const char* widget_id,
+                                int string_id) {
+  const char* text = text_or(panel, string_id, nullptr);
+  AtkObject* accessible =
+      gtk_widget_get_accessible(get_widget(panel->builder, widget_id));
+  if (text) atk_object_set_description(accessible, text);
+}
+
 void set_list_store_text(GnomeTCCapplet* panel, const char* store_id,
                          int column, int row, int string_id) {
   GtkListStore* store = get_list_store(panel->builder, store_id);

@@ -34,6 +34,9 @@ void set_column_title(GnomeTCCapplet* panel, const char* column_id,
 // Names a widget without a visible text for screen readers.
 void set_accessible_name(GnomeTCCapplet* panel, const char* widget_id,
                          int string_id);
+// Tells screen readers more about a widget than its name.
+void set_accessible_description(GnomeTCCapplet* panel, const char* widget_id,
+                                int string_id);
 // Does nothing when there is no such text or row.
 void set_list_store_text(GnomeTCCapplet* panel, const char* store_id,
                          int column, int row, int string_id);

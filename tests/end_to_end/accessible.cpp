@@ -36,15 +36,15 @@ bool Accessible::Ask(const char* interface, const char* method,
   return fits;
 }
 
-std::string Accessible::Name() const {
+std::string Accessible::Property(const char* name) const {
   GVariant* value = nullptr;
   if (!Ask("org.freedesktop.DBus.Properties", "Get",
-           g_variant_new("(ss)", kAccessible, "Name"), "(v)", &value)) {
+           g_variant_new("(ss)", kAccessible, name), "(v)", &value)) {
     return {};
   }
-  std::string name = g_variant_get_string(value, nullptr);
+  std::string text = g_variant_get_string(value, nullptr);
   g_variant_unref(value);
-  return name;
+  return text;
 }
 
 std::string Accessible::Role() const {

@@ -15,6 +15,7 @@ class Accessible {
   enum State {
     kActive = 1,
     kChecked = 4,
+    kFocusable = 11,
     kFocused = 12,
     kSelected = 23,
     kSensitive = 24,
@@ -24,7 +25,10 @@ class Accessible {
   // The desktop, whose children are programs.
   Accessible() = default;
 
-  [[nodiscard]] std::string Name() const;
+  [[nodiscard]] std::string Name() const { return Property("Name"); }
+  [[nodiscard]] std::string Description() const {
+    return Property("Description");
+  }
   // "push button".
   [[nodiscard]] std::string Role() const;
   [[nodiscard]] bool Is(State state) const;
@@ -46,6 +50,7 @@ class Accessible {
 
   // Reads the values from the answer, in a format of g_variant_get(). Without
   // an answer in that format reads nothing and returns false.
+  [[nodiscard]] std::string Property(const char* name) const;
   template <typename... Values>
   bool Ask(const char* interface, const char* method, GVariant* arguments,
            const char* format, Values*... values) const;

@@ -46,12 +46,22 @@ const std::set<std::string> kNeedNoName = {
 
 class ProgramTest : public EndToEndTest {
  protected:
+  // That every control has a name and sounds like no other.
   void ExpectNames() {
     const auto nameless = window_.FindAll([](const Accessible& node) {
       return node.Is(Accessible::kShowing) && node.Name().empty() &&
              !kNeedNoName.contains(node.Role());
     });
     for (const Accessible& node : nameless) ADD_FAILURE() << node.Role();
+    const auto controls = window_.FindAll([](const Accessible& node) {
+      return node.Is(Accessible::kFocusable) &&
+             !kNeedNoName.contains(node.Role());
+    });
+    std::set<std::pair<std::string, std::string>> heard;
+    for (const Accessible& node : controls) {
+      EXPECT_TRUE(heard.emplace(node.Name(), node.Description()).second)
+          << "Another control sounds like " << node.Name();
+    }
   }
 
   void Open(const char* button, const char* title) {
