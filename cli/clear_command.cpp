@@ -52,6 +52,7 @@ class ClearCommand {
                     bool (*remove)(SettingsManager&));
   void ClearStorageExceptKept();
   void ClearOldStorage();
+  void ClearAllSettings();
   [[nodiscard]] std::vector<std::string> SitesWithData() const;
   [[nodiscard]] bool HasOldFile(const SimpleString& directory) const;
   [[nodiscard]] bool IsKept(const std::string& site) const;
@@ -86,6 +87,13 @@ std::vector<std::string> Listing(const SASM::FileManager& files,
   return names;
 }
 
+bool HoldsNoSites(const SimpleString& settings_directory) {
+  const auto names = Listing(LinuxFileManager(), settings_directory);
+  return std::ranges::all_of(names, [](const std::string& name) {
+    return name == SASM::StoreLayout::kSettingsFileName;
+  });
+}
+
 bool ClearCommand::ParseOptions() {
   for (const char* age : line_.ArgumentsOf(kOlderThan)) {
     if (ParseAge(age, &age_seconds_)) continue;
@@ -117,18 +125,25 @@ bool ClearCommand::IsKept(const std::string& site) const {
 void ClearCommand::AddDirectory(const SimpleString& path, const char* line,
                                 bool (*remove)(SettingsManager&)) {
   if (files_.SizeOfFileAtPath(path) == 0) return;
-  changes_.Add({path.c_str(), {line}, remove});
+  // A directory that cannot be opened is left, without a failure.
+  changes_.Add({path.c_str(), {line}, [path, remove](SettingsManager& manager) {
+                  return remove(manager) &&
+                         LinuxFileManager().SizeOfFileAtPath(path) == 0;
+                }});
 }
 
 void ClearCommand::ClearStorage() {
   if (line_.Has(kOlderThan)) return ClearOldStorage();
   if (!kept_.empty()) return ClearStorageExceptKept();
-  if (Listing(files_, store_.Layout().LocalStorageRoot()).empty()) return;
+  const SimpleString root = store_.Layout().LocalStorageRoot();
+  if (Listing(files_, root).empty()) return;
   changes_.Add({kAllSitesSubject,
                 {"all sites: stored data deleted"},
-                [](SettingsManager& manager) {
+                [root](SettingsManager& manager) {
                   return manager.RemoveAllSettingsAndOrLocalStorage(
-                      /*remove_settings=*/false, /*remove_storage=*/true);
+                             /*remove_settings=*/false,
+                             /*remove_storage=*/true) &&
+                         Listing(LinuxFileManager(), root).empty();
                 }});
 }
 
@@ -182,22 +197,22 @@ void ClearCommand::ClearOldStorage() {
   }
 }
 
+void ClearCommand::ClearAllSettings() {
+  const SimpleString directory = store_.Layout().SettingsDirectory();
+  const SASM::SDIVector* listed = store_.ListedSites();
+  if (HoldsNoSites(directory) && (!listed || listed->count == 0)) return;
+  changes_.Add({kAllSitesSubject,
+                {"all sites: settings removed"},
+                [directory](SettingsManager& manager) {
+                  return manager.RemoveAllSettingsAndOrLocalStorage(
+                             /*remove_settings=*/true,
+                             /*remove_storage=*/false) &&
+                         HoldsNoSites(directory);
+                }});
+}
+
 void ClearCommand::ClearSettings() {
-  if (kept_.empty()) {
-    const auto names = Listing(files_, store_.Layout().SettingsDirectory());
-    const bool is_empty = std::ranges::all_of(names, [](const auto& name) {
-      return name == SASM::StoreLayout::kSettingsFileName;
-    });
-    const SASM::SDIVector* listed = store_.ListedSites();
-    if (is_empty && (!listed || listed->count == 0)) return;
-    return changes_.Add({kAllSitesSubject,
-                         {"all sites: settings removed"},
-                         [](SettingsManager& manager) {
-                           return manager.RemoveAllSettingsAndOrLocalStorage(
-                               /*remove_settings=*/true,
-                               /*remove_storage=*/false);
-                         }});
-  }
+  if (kept_.empty()) return ClearAllSettings();
   for (const std::string& site : store_.KnownSites()) {
     if (IsKept(site) || !SASM::IsSiteName(site.c_str())) continue;
     changes_.Add(RemovalOfSite(site.c_str(), Data::kKept, store_, files_));

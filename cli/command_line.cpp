@@ -13,27 +13,27 @@ namespace {
 
 constexpr Command kCommands[] = {
     {"show", "[SITE...]", "show the global settings and those of the sites",
-     "jpN0", false, nullptr, true, RunShow},
+     "jpN0", nullptr, RunShow, true},
     {"inspect", "FILE...", "show what settings files hold, entry by entry",
-     "jsg", false, nullptr, true, RunInspect},
-    {"doctor", "", "find what is wrong and what no list shows", "jrn", false,
-     nullptr, false, RunDoctor},
-    {"export", "[SITE...]", "print all settings as a JSON document", "o", false,
-     nullptr, true, RunExport},
-    {"import", "FILE", "apply such a document", "RDn", true, "a file", true,
-     RunImport},
-    {"set", "KIND=STATE... SITE...", "set permissions of sites", "aAn", true,
-     "a permission", true, RunSet},
+     "jsg", nullptr, RunInspect, true},
+    {"doctor", "", "find what is wrong and what no list shows", "jrn", nullptr,
+     RunDoctor, false},
+    {"export", "[SITE...]", "print all settings as a JSON document", "o",
+     nullptr, RunExport, true},
+    {"import", "FILE", "apply such a document", "RDn", "a file", RunImport,
+     true},
+    {"set", "KIND=STATE... SITE...", "set permissions of sites", "aAn",
+     "a permission", RunSet, true},
     {"remove", "SITE...", "remove sites, with their settings and data", "kn",
-     true, "a site", true, RunRemove},
+     "a site", RunRemove, true},
     {"clear", "WHAT...", "delete what sites and the plug-in have stored", "KOn",
-     true, "what to clear", true, RunClear},
-    {"trust", "PATH...", "add trusted locations", "n", true, "a path", true,
-     RunTrust},
-    {"untrust", "PATH...", "remove trusted locations", "n", true, "a path",
-     true, RunUntrust},
-    {"version", "", "show which versions are installed", "", false, nullptr,
-     false, RunVersion},
+     "what to clear", RunClear, true},
+    {"trust", "PATH...", "add trusted locations", "n", "a path", RunTrust,
+     true},
+    {"untrust", "PATH...", "remove trusted locations", "n", "a path",
+     RunUntrust, true},
+    {"version", "", "show which versions are installed", "", nullptr,
+     RunVersion, false},
 };
 
 struct OptionRow {
@@ -117,7 +117,7 @@ struct OptionTables {
     for (const OptionRow& row : kOptions) {
       const int has_argument = row.argument ? required_argument : no_argument;
       names.push_back({row.name, has_argument, nullptr, row.option});
-      if (row.is_short) letters += row.option;
+      if (row.is_short) letters += static_cast<char>(row.option);
       if (row.is_short && row.argument) letters += ':';
     }
     names.push_back({});

@@ -43,13 +43,11 @@ struct Command {
   const char* help;
   // Besides --help and --version.
   std::string_view options;
-  // Also opens the files of settings for writing, unless --dry-run is given.
-  bool changes_settings;
   // Names the words that follow, of which there must be at least one; null
   // when there may be none.
   const char* needed_word;
-  bool takes_words;
   ExitStatus (*run)(const CommandLine& line);
+  bool takes_words;
 };
 
 // What the user typed; borrowed from the program's arguments.

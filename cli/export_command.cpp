@@ -37,8 +37,7 @@ std::vector<std::string> AllSites(const StoreView& store) {
   const auto on_disk = SASM::SitesWithSettingsFile(store.Layout());
   sites.insert(sites.end(), on_disk.begin(), on_disk.end());
   std::ranges::sort(sites);
-  const auto repeated = std::ranges::unique(sites);
-  sites.erase(repeated.begin(), repeated.end());
+  sites.erase(std::unique(sites.begin(), sites.end()), sites.end());
   return sites;
 }
 

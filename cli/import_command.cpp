@@ -43,7 +43,6 @@ class ImportCommand {
 
   ExitStatus Run() {
     if (!MayChange(store_)) return kFailure;
-    const SharedMeasurement measurement;
     if (document_.global) SetGlobal(*document_.global);
     if (document_.trusted_locations) SetLocations(*document_.trusted_locations);
     if (document_.sites) SetSites(*document_.sites);
@@ -72,6 +71,7 @@ class ImportCommand {
   }
 
   void SetSites(const std::vector<Document::Site>& sites) {
+    const SharedMeasurement measurement;  // not of what is left afterwards
     if (replaces_) RemoveOtherSites(sites);
     for (const Document::Site& site : sites) SetSite(site);
   }

@@ -20,8 +20,10 @@ Change DeletionOfData(const SimpleString& site, const StoreView& store,
   if (!HasData(site, store, files)) return change;
   change.lines.push_back(Printable(site.c_str()) + ": stored data deleted");
   change.apply = [site](SettingsManager& manager) {
+    // A directory that cannot be opened is left, without a failure.
     return manager.RemoveDomainInformation(site, /*remove_settings=*/false,
-                                           /*remove_storage=*/true);
+                                           /*remove_storage=*/true) &&
+           manager.SizeOfLocalStorage(site) == 0;
   };
   return change;
 }
@@ -43,7 +45,8 @@ Change RemovalOfSite(const SimpleString& site, Data data,
       removed = manager.RemoveDomainInformation(site, /*remove_settings=*/true,
                                                 deletes_data);
     }
-    return removed;
+    return removed && manager.SizeOfSettings(site) == 0 &&
+           (!deletes_data || manager.SizeOfLocalStorage(site) == 0);
   };
   return change;
 }

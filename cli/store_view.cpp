@@ -78,8 +78,7 @@ std::vector<std::string> StoreView::KnownSites() const {
   std::vector<std::string> sites = SitesWithSettings();
   sites.insert(sites.end(), listed_.begin(), listed_.end());
   std::ranges::sort(sites);
-  const auto repeated = std::ranges::unique(sites);
-  sites.erase(repeated.begin(), repeated.end());
+  sites.erase(std::unique(sites.begin(), sites.end()), sites.end());
   return sites;
 }
 
