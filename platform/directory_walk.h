@@ -33,7 +33,7 @@ class DirectoryWalk {
  protected:
   enum Way {
     kThereAndBack,
-    kThere,  // does not call LeaveDirectory: the last levels need no way back
+    kThere,  // LeaveDirectory does nothing: the last levels need no way back
   };
   explicit DirectoryWalk(Way way);
   virtual ~DirectoryWalk();
