@@ -41,8 +41,9 @@ std::string Escaped(std::string_view bytes) {
 // In bytes, of the first characters of a well-formed text.
 std::size_t SizeOfStart(std::string_view text, std::size_t characters) {
   std::size_t size = 0;
-  while (characters-- > 0)
+  while (characters-- > 0) {
     size += NCPStrings::SequenceLength(text.substr(size));
+  }
   return size;
 }
 
@@ -73,7 +74,7 @@ std::string PrintableExcerpt(std::string_view bytes, std::size_t longest) {
   if (bytes.size() > margin) {
     ends += bytes.substr(std::max(margin, bytes.size() - margin));
   }
-  const std::string text = Printable(ends);
+  std::string text = Printable(ends);
   const std::size_t length = u8_mbsnlen(Bytes(text), text.size());
   if (length <= longest) return text;
   const std::size_t half = longest / 2;
