@@ -29,6 +29,12 @@ struct Row {
   UsedSpace used;
 };
 
+// In a row of any list: a column has at most a text, a number and an icon.
+constexpr std::size_t kMostCells =
+    3 * std::ranges::max(kLists, {}, [](const List& list) {
+          return list.columns.size();
+        }).columns.size();
+
 // The cells of a row. Texts are borrowed until the row is appended.
 class Cells {
  public:
@@ -48,15 +54,13 @@ class Cells {
   }
 
  private:
-  static constexpr int kMost = 6;
-
   GValue* Add(int column, GType type) {
     columns_[count_] = column;
     return g_value_init(&values_[count_++], type);
   }
 
-  int columns_[kMost];
-  GValue values_[kMost] = {};
+  int columns_[kMostCells];
+  GValue values_[kMostCells] = {};
   int count_ = 0;
 };
 
