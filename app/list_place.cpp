@@ -92,12 +92,17 @@ void GoOnFromCursor(GtkTreeView* view) {
 
 int find_place(const Names& old_names, int row, const Names& new_names) {
   const int last = static_cast<int>(new_names.size()) - 1;
-  if (new_names.size() < old_names.size()) {
+  const int old_count = static_cast<int>(old_names.size());
+  const bool are_removed = last + 1 < old_count;
+  if (are_removed && CountKept(old_names, old_count, new_names) == last + 1) {
     return std::min(CountKept(old_names, row, new_names), last);
   }
-  const std::string& name = old_names[static_cast<std::size_t>(row)];
-  const int found = FindNearest(new_names, name, row);
-  if (found >= 0) return found;
+  // In another order. Without removals, only the row's own name counts.
+  for (int i = row; i < (are_removed ? old_count : row + 1); ++i) {
+    const std::string& name = old_names[static_cast<std::size_t>(i)];
+    const int found = FindNearest(new_names, name, row);
+    if (found >= 0) return found;
+  }
   const std::unordered_set<std::string> known(old_names.begin(),
                                               old_names.end());
   const auto changed = std::ranges::find_if(

@@ -42,8 +42,10 @@ GtkWidget* NewQuestion(GnomeTCCapplet* panel, const List& list) {
       GTK_WINDOW(get_widget(panel->builder, list.dialog)), GTK_DIALOG_MODAL,
       GTK_MESSAGE_WARNING, GTK_BUTTONS_NONE, "%s",
       Question(panel, list).c_str());
-  gtk_window_set_title(GTK_WINDOW(dialog),
-                       text_or(panel, 11200, "Confirmation Needed"));
+  const char* title = text_or(panel, 11200, "Confirmation Needed");
+  gtk_window_set_title(GTK_WINDOW(dialog), title);
+  // By itself, "Warning".
+  atk_object_set_name(gtk_widget_get_accessible(dialog), title);
   gtk_dialog_add_buttons(GTK_DIALOG(dialog), text_or(panel, 11001, "Cancel"),
                          GTK_RESPONSE_CANCEL, text_or(panel, 11009, "Remove"),
                          GTK_RESPONSE_OK, nullptr);
