@@ -51,6 +51,14 @@ void MoveCursor(GtkTreeView* view, int row, GtkTreeViewColumn* column) {
   gtk_tree_path_free(path);
 }
 
+// To the toolkit the row with the cursor is one that has been clicked: a click
+// on it would edit it, and select nothing. A selection of no rows forgets that.
+void MakeNextClickTheFirst(GtkTreeView* view) {
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(view);
+  gtk_tree_selection_set_mode(selection, GTK_SELECTION_NONE);
+  gtk_tree_selection_set_mode(selection, GTK_SELECTION_MULTIPLE);
+}
+
 bool IsPlainKey() {
   GdkModifierType state = {};
   gtk_get_current_event_state(&state);
@@ -155,6 +163,7 @@ void ListPlace::PutCursorBack() const {
   if (names_.empty() || names.empty()) return;
   const int row = find_place(names_, row_, names);
   MoveCursor(view_, row, column_);
+  MakeNextClickTheFirst(view_);
   if (is_selected_ && names.size() >= names_.size()) GoOnFromCursor(view_);
 }
 
