@@ -1,0 +1,221 @@
+"""The pages, and what holds for all sites at once."""
+import itertools
+import os
+import subprocess
+import unittest
+
+from panel import (CACHE, LICENCE, MAIN_WINDOW, MASTER, PROGRAM, PanelTest,
+                   data_of, file_of, find_all, is_in, press)
+from gi.repository import Atspi
+
+ASK = "Ask me before allowing new sites to save information on this computer"
+BLOCK = "Block all sites from storing information on this computer"
+DELETE_ALL = "Delete All Site Data in Corvane Player"
+A, B = "a.example", "b.example"
+
+
+class AllSitesTest(PanelTest):
+    def setUp(self):
+        super().setUp()
+        self.add_sites(A, B)
+        for name in (data_of(B), CACHE, LICENCE):
+            self.put(name)
+
+    def expect_limits(self, limit):
+        for site in (A, B):
+            self.expect_stored(limit, "klimit", site)
+        self.expect_stored(limit, "defaultklimit")
+
+    def delete_all(self, sites, licences):
+        self.click("Delete All…")
+        self.see(DELETE_ALL)
+        if not sites:
+            self.click("Delete All Site Data and Settings")
+        if licences:
+            self.click("Delete All Audio and Video License Files")
+        self.click("Delete Data")
+
+    def test_storage_is_blocked_only_when_confirmed(self):
+        self.start()
+        self.click(ASK)
+        self.expect_limits(0)
+        self.click(BLOCK)
+        self.see("Disable Local Storage")
+        self.click("Cancel")
+        self.see(MAIN_WINDOW)
+        self.assertTrue(is_in(self.get(ASK, "radio button"), "CHECKED"))
+        self.expect_limits(0)
+        self.assertTrue(self.has(data_of(B)))
+        self.click(BLOCK)
+        self.see("Disable Local Storage")
+        self.click("Disable Local Storage")
+        self.expect_limits(-1)
+        self.close()
+        self.assertFalse(self.has(data_of(B)))
+        self.assertTrue(self.has(CACHE))
+
+    def test_cameras_are_blocked_and_asked_for_again(self):
+        self.start("-p privacy")
+        self.click("Block all sites from using the camera and microphone")
+        for site in (A, B):
+            self.expect_stored(True, "always", site)
+            self.assertIs(self.stored("allow", site), False)
+        self.expect_stored(True, "defaultalways")
+        self.click("Ask me when a site wants to use the camera or microphone "
+                   "(recommended)")
+        self.expect_stored(False, "always", B)
+        self.expect_stored(False, "defaultalways")
+
+    def test_licences_are_reset(self):
+        self.start("-p advanced")
+        self.click("Deauthorize This Computer…")
+        self.see("Deauthorize This Computer")
+        self.click("Deauthorize")
+        self.close()
+        self.assertFalse(self.has(LICENCE))
+        self.assertTrue(self.has(data_of(B)))
+
+    def test_what_is_checked_is_deleted(self):
+        for sites, licences in itertools.product((False, True), repeat=2):
+            with self.subTest(sites=sites, licences=licences):
+                self.setUp()
+                self.start()
+                before = self.disk()
+                self.delete_all(sites, licences)
+                self.see(MAIN_WINDOW)
+                self.close()
+                for name in (data_of(B), CACHE, file_of(A)):
+                    self.assertEqual(self.has(name), not sites, name)
+                self.assertEqual(self.stored("domains"),
+                                 [] if sites else [A, B])
+                self.assertEqual(self.stored("defaultklimit"), 100)
+                self.assertEqual(self.has(LICENCE), not licences)
+                self.assertEqual(self.disk() == before,
+                                 not sites and not licences)
+
+    def test_says_what_could_not_be_deleted_and_goes_on(self):
+        directory = self.home / ".tessary/Corvane_Player"
+        subprocess.run(["rm", "-r", directory], check=True)
+        directory.touch()
+        self.start()
+        self.delete_all(True, True)
+        for kind in ("local storage", "license files"):
+            start = "Corvane Player was unable to delete all " + kind
+            self.eventually(lambda: find_all(
+                Atspi.get_desktop(0),
+                lambda node: node.get_name().startswith(start)), kind)
+        self.see("Error")
+        press("Escape")
+        self.eventually(lambda: not is_in(self.window, "SHOWING"))
+        self.close(r"(RemoveFilesRecursively: stat: Not a directory\n)*")
+        self.assertFalse(self.has(data_of(B)))
+
+
+# What only holds other things, or is part of a control that has a name.
+NEED_NO_NAME = ("filler", "icon", "image", "menu", "page tab list", "panel",
+                "scroll bar", "separator", "scroll pane", "table cell",
+                "viewport", "menu item", "unknown")
+# A page, a button, the dialog that it opens, and the title of what the button
+# "Add…" opens in turn, or True for a dialog whose button deletes.
+BY_SITE = {"storage": "Local Storage", "privacy": "Camera and Microphone",
+           "playback": "Peer-assisted Networking"}
+DIALOGS = [
+    ("storage", BLOCK, "Disable Local Storage", True),
+    ("storage", "Delete All…", DELETE_ALL, True),
+    *((page, f"{kind} Settings by Site…", f"{kind} Settings by Site",
+       f"Add {kind} Setting by Site") for page, kind in BY_SITE.items()),
+    ("advanced", "Delete All…", DELETE_ALL, True),
+    ("advanced", "Deauthorize This Computer…", "Deauthorize This Computer",
+     True),
+    ("advanced", "Trusted Location Settings…", "Trusted Location Settings",
+     None)]
+
+
+class ProgramTest(PanelTest):
+    def expect_names(self):
+        nameless = find_all(self.window, lambda node: (
+            is_in(node, "SHOWING") and not node.get_name() and
+            node.get_role_name() not in NEED_NO_NAME))
+        self.assertEqual([node.get_role_name() for node in nameless], [])
+
+    def open(self, button, title):
+        self.click(button)
+        self.see(title)
+        self.expect_names()
+
+    def test_nothing_happens_in_a_dialog_that_is_left(self):
+        self.add_sites(A, locations=["/srv/media"])
+        for name in (data_of(A), LICENCE):
+            self.put(name)
+        for page, opener, title, more in DIALOGS:
+            with self.subTest(title, page=page):
+                self.start("--show-page " + page)
+                self.expect_names()
+                before = self.disk()
+                self.open(opener, title)
+                if isinstance(more, str):
+                    self.open("Add…", more)
+                    press("Escape")
+                    self.see(title)
+                press("Escape")
+                self.see(MAIN_WINDOW)
+                if more is True:
+                    self.open(opener, title)
+                    press("Return")
+                    self.see(MAIN_WINDOW)
+                self.close()
+                self.assertEqual(self.disk(), before)
+
+    def test_every_way_of_closing_ends_well(self):
+        for key in ("Escape", "alt+F4", "Return"):
+            with self.subTest(key):
+                self.start()
+                if key == "Return":
+                    self.get("Close", "push button").grab_focus()
+                press(key)
+                self.expect_end()
+
+    def test_answers_on_the_command_line(self):
+        for option, status, output, errors in (
+                ("--no-such-option", 1, "",
+                 "Unknown option --no-such-option\n"),
+                ("--show-page", 1, "", "Missing argument for --show-page\n"),
+                ("--help", 0, "Usage:\n", ""),
+                (None, 1, "", "Cannot open display: \n")):
+            run = subprocess.run(
+                [PROGRAM, *filter(None, [option])], capture_output=True,
+                text=True, check=False,
+                env={name: value for name, value in os.environ.items()
+                     if name != "DISPLAY"} | {"HOME": str(self.home)})
+            self.assertEqual((run.returncode, run.stderr), (status, errors))
+            self.assertTrue(run.stdout.startswith(output), run.stdout)
+        self.assertEqual(list(self.home.iterdir()), [])
+
+    def test_shows_some_page_whatever_the_name(self):
+        for name, button in (("nonsense", "Local Storage Settings by Site…"),
+                             ("storage_by_site", "Trusted Location Settings…")):
+            self.start("-p " + name)
+            self.get(button, "push button")
+            self.close()
+
+    # Whatever the files hold: a usable window, and the reader's own messages.
+    def test_starts_on_damaged_files(self):
+        self.add_sites(A, B)
+        master = self.read(MASTER)
+        site = self.read(file_of(A))
+        for damaged in (b"", b"\xff", master[:40], b"\3" * 100000,
+                        master + b"\0"):
+            self.put(MASTER, damaged)
+            self.put(file_of(A), site[:30])
+            self.start()
+            self.click(ASK)
+            self.expect_stored(0, "defaultklimit")
+            self.close("(SMSettingsReader: [^\n]*\n)*")
+        self.put(MASTER, b"\xff")
+        # Where messages could go into the display's connection.
+        self.start("2>&-")
+        self.close()
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,253 @@
+"""The real program in a real window, as an assistive technology sees it.
+
+Needs a desktop of its own (on_desktop). Main window and dialogs are known by
+their titles. Verbs wait for what they need and fail the test when it does not
+come. Any warning of the toolkit ends the program.
+"""
+import os
+import pathlib
+import re
+import shlex
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+import gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+
+sys.path.append(str(pathlib.Path(__file__).parents[2] / "fuzz"))
+from make_seeds import ARRAY, BOOL, NUMBER, entry, image, sites
+
+PROGRAM = os.environ["PANEL_PROGRAM"]
+PATIENCE = 30  # seconds
+MAIN_WINDOW = "Tessary Corvane Player Preferences"
+BASE = ".orbelline/Corvane_Player"
+SETTINGS = BASE + "/tessary.example/support/corvaneplayer/sys"
+MASTER = SETTINGS + "/settings.sol"
+CACHE = ".tessary/Corvane_Player/AssetCache/a/b"
+LICENCE = ".tessary/Corvane_Player/APSPrivateData2/x/y"
+CLICKABLE = ("push button", "radio button", "check box", "page tab",
+             "table column header")
+CLICK = "mousedown 1 sleep 0.15 mouseup 1".split()
+
+def file_of(site):
+    return f"{SETTINGS}/#{site}/settings.sol"
+
+
+def data_of(site):
+    return f"{BASE}/#SharedObjects/QK5SFBDP/{site}/data"
+
+
+def is_in(node, state):
+    node.clear_cache()
+    return node.get_state_set().contains(getattr(Atspi.StateType, state))
+
+
+def place_of(node):
+    """The middle, in pixels of the screen."""
+    box = node.get_extents(Atspi.CoordType.SCREEN)
+    return [str(box.x + box.width // 2), str(box.y + box.height // 2)]
+
+
+def children(node):
+    """Each looked at anew."""
+    for i in range(node.get_child_count()):
+        if (child := node.get_child_at_index(i)) is not None:
+            child.clear_cache()
+            yield child
+
+
+def find_all(node, fits):
+    """Those below that fit, each before its own children."""
+    found = []
+    for child in children(node):
+        found += ([child] if fits(child) else []) + find_all(child, fits)
+    return found
+
+
+def send(*command):
+    subprocess.run(["xdotool", *command], check=True)
+
+
+def click_at(node):
+    send("mousemove", *place_of(node), *CLICK)
+
+
+def press(keys):
+    send("key", *keys.split())
+
+
+def write(text):
+    send("type", text)
+
+
+def stored_value(data, key):
+    """The value under a key: True, 100.0, a list of names; None for none."""
+    start = data.index(b"TCSO") + 10
+    size, = struct.unpack_from(">H", data, start)
+    rest = data[start + 2 + size + 4:]
+
+    def take(count):
+        nonlocal rest
+        taken, rest = rest[:count], rest[count:]
+        return taken
+
+    def text():
+        return os.fsdecode(take(*struct.unpack(">H", take(2))))
+
+    def scalar(kind):
+        if kind == NUMBER:
+            return struct.unpack(">d", take(8))[0]
+        return take(1) != b"\0" if kind == BOOL else text()
+
+    while rest:
+        name, kind, value = text(), take(1)[0], []
+        if kind == ARRAY:
+            while element := text():
+                scalar(take(1)[0])
+                value.append(element)
+            take(1)
+        else:
+            value = scalar(kind)
+        take(1)
+        if name == key:
+            return value
+    return None
+
+
+class PanelTest(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.home = pathlib.Path(directory.name)
+        self.program = None
+        self.window = None
+
+    def put(self, name, data=b"x"):
+        path = self.home / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(data)
+
+    def has(self, name):
+        return (self.home / name).exists()
+
+    def read(self, name):
+        return (self.home / name).read_bytes()
+
+    def add_sites(self, *names, locations=()):
+        """Known sites with default settings, and trusted locations."""
+        self.put(MASTER, image(
+            sites(*names), entry("defaultklimit", NUMBER, 100),
+            entry("trustedPaths", ARRAY,
+                  [(os.fsencode(path), BOOL, 1) for path in locations])))
+        for name in names:
+            self.put(file_of(name), image(
+                entry("klimit", NUMBER, 100),
+                *(entry(key, BOOL, 0) for key in
+                  ("always", "allow", "p2palways", "p2pallow"))))
+
+    def disk(self):
+        """Every file: its bytes and when they were written."""
+        return {path: (path.read_bytes(), path.stat().st_mtime_ns)
+                for path in self.home.rglob("*") if path.is_file()}
+
+    def start(self, options="", title=MAIN_WINDOW, **environment):
+        self.errors = tempfile.TemporaryFile()
+        self.addCleanup(self.errors.close)
+        self.program = subprocess.Popen(
+            f"exec {shlex.quote(PROGRAM)} {options}", shell=True,
+            stderr=self.errors, env=dict(
+                os.environ, HOME=str(self.home), G_DEBUG="fatal-warnings",
+                GTK_MODULES="gail:atk-bridge",
+                LSAN_OPTIONS="detect_leaks=0", **environment))
+        self.addCleanup(self.end)
+        self.see(title)
+
+    def end(self):
+        """Ends a program that still runs, and has nothing to complain about."""
+        if self.program.returncode is None:
+            self.program.terminate()
+            self.program.wait()
+            self.expect_errors("")
+
+    def expect_errors(self, pattern):
+        self.errors.seek(0)
+        self.assertRegex(self.errors.read().decode(), rf"\A(?:{pattern})\Z")
+
+    def eventually(self, condition, what=""):
+        deadline = time.monotonic() + PATIENCE
+        while True:
+            try:
+                if result := condition():
+                    return result
+            except GLib.Error:  # a node has gone
+                pass
+            if time.monotonic() > deadline:
+                self.fail(f"{what} does not come")
+            time.sleep(0.01)
+
+    @staticmethod
+    def windows(title):
+        return [window for program in children(Atspi.get_desktop(0))
+                for window in children(program)
+                if window.get_name() == title and is_in(window, "SHOWING")]
+
+    def see(self, title):
+        """The active window of that title: the one other verbs mean."""
+        self.window = self.eventually(
+            lambda: [window for window in self.windows(title)
+                     if is_in(window, "ACTIVE")], title)[0]
+
+    def get(self, name, *roles):
+        """What shows in the window; a menu has a window of its own."""
+        place = (Atspi.get_desktop(0) if "menu item" in roles
+                 else self.window)
+        return self.eventually(lambda: find_all(
+            place, lambda node: node.get_name() == name and
+            node.get_role_name() in roles and is_in(node, "SHOWING")), name)[0]
+
+    def click(self, name):
+        node = self.get(name, *CLICKABLE)
+        self.eventually(lambda: is_in(node, "SENSITIVE") and node.do_action(0),
+                        name)
+
+    def select(self, *rows):
+        """Clicks on those cells, with Ctrl on all but the first."""
+        for row in rows:
+            click = ["mousemove", *place_of(self.get(row, "table cell")),
+                     *CLICK]
+            send(*(click if row == rows[0] else
+                   ["keydown", "ctrl", *click, "keyup", "ctrl"]))
+            self.expect_selected(row)
+
+    def expect_selected(self, row):
+        self.eventually(lambda: is_in(self.get(row, "table cell"),
+                                      "SELECTED"), row)
+
+    def stored(self, key, site=None):
+        return stored_value(self.read(file_of(site) if site else MASTER), key)
+
+    def expect_stored(self, value, key, site=None):
+        """What comes to be on disk."""
+        def is_stored():
+            try:
+                return self.stored(key, site) == value
+            except (FileNotFoundError, ValueError):  # being written
+                return False
+        self.eventually(is_stored, f"{site} {key} = {value}")
+
+    def expect_end(self, errors=""):
+        """Standard error holds what matches the pattern and nothing else."""
+        self.assertEqual(self.program.wait(PATIENCE), 0)
+        self.expect_errors(errors)
+
+    def close(self, errors=""):
+        self.window = self.windows(MAIN_WINDOW)[0]
+        self.click("Close")
+        self.expect_end(errors)
