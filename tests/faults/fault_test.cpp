@@ -35,7 +35,8 @@ constexpr Fault kFaults[] = {
     {"read: interrupted", faults::kRead, Effect::kFail, EINTR},
     {"write: bad disk", faults::kWrite, Effect::kFail, EIO},
     {"write: interrupted", faults::kWrite, Effect::kFail, EINTR},
-    {"short write", faults::kWrite, Effect::kShortWrite},
+    {"short read", faults::kRead, Effect::kShort},
+    {"short write", faults::kWrite, Effect::kShort},
     {"disk full", faults::kWrite, Effect::kDiskFull, ENOSPC},
     {"close: bad disk", faults::kClose, Effect::kFail, EIO},
     {"mkdir: read-only", faults::kMkdir, Effect::kFail, EROFS},
@@ -357,7 +358,7 @@ bool Faults::Try(const Operation& operation, const Fault& fault, int n,
   EXPECT_LE(CountTorn(before.disk, after, complete.disk),
             MostTorn(operation, fault));
   const bool is_done = result && operation.reports;
-  const bool is_overcome = fault.effect == Effect::kShortWrite ||
+  const bool is_overcome = fault.effect == Effect::kShort ||
                            fault.error == EINTR || fault.error == ENOSYS;
   EXPECT_TRUE(result || !is_overcome);
   if (is_overcome || (is_done && (fault.calls & faults::kChangesDisk))) {

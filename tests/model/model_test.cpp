@@ -106,6 +106,8 @@ TEST_F(StorageLimit, ShowsWhateverNumberIsStored) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.stored);
     StorageSetting setting = Of("a");
+    setting.setSliderSetting(3).setDontAsk(c.stored == -1);
+    EXPECT_EQ(setting.getValue(), c.stored == -1 ? -1 : 0);
     setting.setValue(c.stored);
     EXPECT_EQ(setting.getPermissionState(), c.state);
     EXPECT_EQ(setting.getSliderSetting(), c.slider);
@@ -129,6 +131,8 @@ TEST_F(StorageLimit, StagesAPositionBeforeAPermission) {
     SCOPED_TRACE(c.position);
     StorageSetting setting = Of("a");
     setting.setValue(50);
+    setting.setSliderSetting(2);
+    EXPECT_FALSE(setting.isSettingLessThanOldValue()) << "the same";
     setting.setSliderSetting(c.position);
     EXPECT_EQ(setting.isLessThanSpaceUsed(), c.is_less_than_used);
     setting.setPermissionState(kBlock);

@@ -152,11 +152,13 @@ TEST_F(Tree, NeedsLittleStackAndFewDescriptorsHoweverDeep) {
   home_.Write("bottom/file", "1234567");
   Link(home_ / "far/d", "bottom/up");
   const std::uint64_t bottom = Own("bottom") + 7;
-  fs::create_directory(home_ / "far/d");
-  fs::current_path(home_ / "far/d");
-  for (int level = 1; level < kDepth; ++level) {
-    fs::create_directory(kLevel);
-    fs::current_path(kLevel);
+  for (const char* top : {"far/e", "far/d"}) {
+    fs::create_directory(home_ / top);
+    fs::current_path(home_ / top);
+    for (int level = 1; level < kDepth; ++level) {
+      fs::create_directory(kLevel);
+      fs::current_path(kLevel);
+    }
   }
   fs::rename(home_ / "bottom", kLevel);
   fs::current_path("/");
@@ -167,11 +169,23 @@ TEST_F(Tree, NeedsLittleStackAndFewDescriptorsHoweverDeep) {
   Link("../../far/d", "d/x/a");
   Link("../../far/d", "d/x/b");
   home_.Write("d/y/two", "01");
+  constexpr unsigned int kWidth = 100;
+  for (unsigned int i = 0; i < kWidth; ++i) {
+    const std::string name = "/" + std::to_string(i);
+    fs::create_directories(home_ / ("targets" + name));
+    fs::create_directories(home_ / "links");
+    Link("../targets" + name, "links" + name);
+  }
   const LoweredLimit descriptors(RLIMIT_NOFILE, 12);
   const LoweredLimit stack(RLIMIT_STACK, 256u << 10);
   EXPECT_EQ(SizeOf("d"), Own("d") + Own("d/x") + Own("d/y") + 3 + 2 * size);
-  EXPECT_TRUE(Remove("far/d"));
-  EXPECT_TRUE(home_.Has("far/precious") && !home_.Has("far/d"));
+  EXPECT_EQ(SizeOf("links"), Own("links") + kWidth * Own("targets/0"));
+  fs::create_directory(home_ / "both");
+  for (const char* branch : {"d", "e"}) {
+    fs::rename(home_.Path() / "far" / branch, home_.Path() / "both" / branch);
+  }
+  EXPECT_TRUE(Remove("both"));
+  EXPECT_TRUE(home_.Has("far/precious") && !home_.Has("both"));
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ TEST_F(StoreRemoval, OfOneSiteTakesWhatItIsAskedTo) {
 TEST_F(StoreRemoval, OfTheMasterDomainTakesItsFileAlone) {
   Begin({"a"});
   const auto& master = SASM::SettingsManager::MasterDomain();
+  EXPECT_EQ(manager_->SizeOfSettings(master), Master().size());
   EXPECT_TRUE(manager_->RemoveDomainInformation(master, true, true));
   EXPECT_FALSE(home_.Has(TemporaryHome::MasterFile()));
   EXPECT_TRUE(HasSettings("a") && HasData("a"));

@@ -1,3 +1,4 @@
+#include "store/settings_file.h"
 #include "tests/support/call_hooks.h"
 #include "tests/support/privileges.h"
 #include "tests/support/store_test.h"
@@ -181,16 +182,32 @@ TEST_F(SiteSettings, ComeBackWhenNewOnesDoNotFit) {
 }
 
 TEST_F(MasterSettings, GoWithTheFirstLocalStorageInNaturalOrder) {
-  const std::string root = TemporaryHome::kSharedObjects;
+  const std::string root = std::string(TemporaryHome::kSharedObjects) + "/";
   Start();
-  home_.Write(root + "/site/data", "");
+  home_.Write(root + "site/data", "");
   EXPECT_TRUE(manager_->DeleteDomainStorage("site"));
-  EXPECT_FALSE(home_.Has(root + "/site")) << "there was none at the start";
-  home_.Write(root + "/10/x", "");
-  home_.Write(root + "/2/site/data", "");
+  EXPECT_FALSE(home_.Has(root + "site")) << "there was none at the start";
+  // So many that no directory lists them in this order by chance.
+  for (int i = 2; i < 30; ++i) {
+    home_.Write(root + std::to_string(i * 7919 % 30 + 2) + "/site/data", "x");
+  }
+  home_.Write(root + "1/site/data", "longer");
   Start();
+  EXPECT_EQ(manager_->SizeOfLocalStorage("site"),
+            files_.SizeOfFileAtPath((home_ / (root + "1/site")).c_str()));
   EXPECT_TRUE(manager_->DeleteDomainStorage("site"));
-  EXPECT_FALSE(home_.Has(root + "/2/site"));
+  EXPECT_FALSE(home_.Has(root + "1/site"));
+}
+
+TEST_F(SiteSettings, AreReadUpToALimit) {
+  const std::string file = TemporaryHome::SettingsFileOf("a");
+  home_.Write(file, File("n", Entry("klimit", Number(5))));
+  for (const bool is_too_large : {false, true}) {
+    fs::resize_file(home_ / file, SASM::kLargestSettingsFile + is_too_large);
+    SASM::FileImage image;
+    EXPECT_EQ(SASM::ReadFileImage((home_ / file).c_str(), &image),
+              !is_too_large);
+  }
 }
 
 TEST_F(MasterSettings, LiveInMemoryWithoutAHome) {
@@ -261,6 +278,7 @@ TEST_F(SiteSettings, OfANewSiteFollowTheMasterSettings) {
     EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("a"));
     EXPECT_EQ(SiteOnDisk("a"), c.always + " p2pallow=false p2palways=false "s +
                                    c.limit + " allow=false");
+    EXPECT_EQ(Held("domains"), "domains=[a=true]");
     EXPECT_THAT(ListedOnDisk(), ElementsAre("a"));
   }
 }

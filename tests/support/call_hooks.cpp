@@ -135,16 +135,21 @@ long syscall(long number, ...) {
   return fails ? -1 : next(number, first, second, third, fourth);
 }
 
-ssize_t write(int file, const void* bytes, std::size_t size) {
-  static auto* next = Next<ssize_t(int, const void*, std::size_t)>("write");
-  const bool is_later = state.met;
-  if (!Fails(faults::kWrite)) return next(file, bytes, size);
-  if (is_later || state.fault.effect < faults::Effect::kShortWrite) return -1;
-  const ssize_t written = next(file, bytes, (size + 1) / 2);
-  if (state.fault.effect == faults::Effect::kKillHalfway)
-    _exit(faults::kKilled);
-  return written;
-}
+// What must fail halfway reads or writes half of its bytes.
+#define CAN_BE_SHORT(call, name, bytes_type)                                \
+  ssize_t name(int file, bytes_type bytes, std::size_t size) {              \
+    static auto* next = Next<ssize_t(int, bytes_type, std::size_t)>(#name); \
+    const bool is_later = state.met;                                        \
+    if (!Fails(call)) return next(file, bytes, size);                       \
+    if (is_later || state.fault.effect < faults::Effect::kShort) return -1; \
+    const ssize_t count = next(file, bytes, (size + 1) / 2);                \
+    if (state.fault.effect == faults::Effect::kKillHalfway)                 \
+      _exit(faults::kKilled);                                               \
+    return count;                                                           \
+  }
+
+CAN_BE_SHORT(faults::kRead, read, void*)
+CAN_BE_SHORT(faults::kWrite, write, const void*)
 
 // On Linux the descriptor is closed even when the call fails.
 int close(int file) {
@@ -164,8 +169,6 @@ int unlinkat(int directory, const char* name, int flags) {
   return next(directory, name, flags);
 }
 
-CAN_FAIL(faults::kRead, -1, ssize_t, read,
-         (int file, void* bytes, std::size_t size), (file, bytes, size))
 CAN_FAIL(faults::kMkdir, -1, int, mkdirat,
          (int directory, const char* path, mode_t mode),
          (directory, path, mode))

@@ -48,9 +48,9 @@ enum class Effect {
   kFail,         // the call fails
   kFailOnwards,  // the call and all later ones fail
   kKill,         // the process ends before the call
-  // Of a write, which writes half of its bytes:
-  kShortWrite,
-  kDiskFull,     // later ones write nothing until a file is removed
+  // The call reads or writes half of its bytes:
+  kShort,
+  kDiskFull,     // later writes fail until a file is removed
   kKillHalfway,  // the process ends
 };
 
