@@ -1,11 +1,10 @@
 """The lists of sites, and of trusted locations."""
 import os
-import subprocess
 import unittest
 
-from panel import (CLICK, MASTER, PanelTest, click_at, data_of, file_of,
-                   find_all, is_in, place_of, press, send, write)
-from make_seeds import NUMBER, entry, image
+from home import MASTER, data_of, file_of, settings
+from panel import (CLICK, PanelTest, click_at, find_all, is_in, place_of,
+                   press, send, write)
 
 A, B, C = "a.example", "b.example", "c.example"
 BLOCK, ASK, ALLOW = "Block", "Ask me", "Allow"
@@ -46,14 +45,6 @@ class SiteListTest(PanelTest):
         self.expect_stored(choice != ASK, self.keys[0], site)
         self.expect_stored(choice == ALLOW, self.keys[1], site)
 
-    def expect_sites(self, *names):
-        """From top to bottom."""
-        self.eventually(lambda: [
-            node.get_name() for node in find_all(
-                self.window, lambda node: node.get_role_name() == "table cell"
-                and node.get_name().endswith("example"))] == list(names),
-            str(names))
-
     def expect_no_selection(self):
         self.assertFalse(is_in(self.get("Remove", "push button"), "SENSITIVE"))
 
@@ -90,12 +81,12 @@ class StorageListTest(SiteListTest):
         self.put(data_of("example"))
         self.open(self.which, "shop.a.example", "z.b.example", A)
         self.click("Website")
-        self.expect_sites(A, "shop.a.example", "z.b.example")
+        self.expect_rows(A, "shop.a.example", "z.b.example")
         self.add("example", ASK)
-        self.expect_sites("example", A, "shop.a.example", "z.b.example")
+        self.expect_rows("example", A, "shop.a.example", "z.b.example")
         self.add("z.b.example", BLOCK)
         self.click(self.column)
-        self.expect_sites("z.b.example", "example", A, "shop.a.example")
+        self.expect_rows("z.b.example", "example", A, "shop.a.example")
         self.expect_no_selection()
         self.select("example", "z.b.example")
         self.click("Remove")
@@ -123,9 +114,9 @@ class OneListTest(SiteListTest):
         self.put(data_of(small), bytes(900 << 10))
         self.open(STORAGE, big, empty, small)
         self.click("Storage Used")
-        self.expect_sites(empty, small, big)
+        self.expect_rows(empty, small, big)
         self.add(big, BLOCK)
-        self.expect_sites(big, empty, small)
+        self.expect_rows(big, empty, small)
         self.assertFalse(self.has(data_of(big)))
         self.expect_state(big, BLOCK)
 
@@ -218,6 +209,7 @@ class TrustedLocationsTest(PanelTest):
         self.open("/b", "/d", "/a", "/b", "/c")
         for _ in range(2):  # descending
             self.click("Trusted File or Folder Location")
+        self.expect_rows("/d", "/c", "/b", "/b", "/a")
         self.edit("/c", "/e")
         self.expect_locations("/b", "/d", "/a", "/b", "/e")
         self.select("/e", "/d", "/b")
@@ -240,7 +232,7 @@ class TrustedLocationsTest(PanelTest):
 
     # Another type under the key is no list: nothing to show or to change.
     def test_leave_alone_what_is_no_list(self):
-        self.put(MASTER, image(entry("trustedPaths", NUMBER, 7)))
+        self.put(MASTER, settings({"trustedPaths": 7}))
         self.open()
         self.add_folder()
         self.close()

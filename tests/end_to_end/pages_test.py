@@ -4,9 +4,9 @@ import os
 import subprocess
 import unittest
 
-from panel import (CACHE, LICENCE, MAIN_WINDOW, MASTER, PROGRAM, PanelTest,
-                   data_of, file_of, find_all, is_in, press)
 from gi.repository import Atspi
+from home import CACHE, LICENCE, MASTER, data_of, file_of
+from panel import (MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, press)
 
 ASK = "Ask me before allowing new sites to save information on this computer"
 BLOCK = "Block all sites from storing information on this computer"

@@ -5,42 +5,25 @@ their titles. Verbs wait for what they need and fail the test when it does not
 come. Any warning of the toolkit ends the program.
 """
 import os
-import pathlib
-import re
 import shlex
 import struct
 import subprocess
-import sys
 import tempfile
 import time
-import unittest
 
 import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
-sys.path.append(str(pathlib.Path(__file__).parents[2] / "fuzz"))
-from make_seeds import ARRAY, BOOL, NUMBER, entry, image, sites
+from home import HomeTest, MASTER, file_of
+from make_seeds import ARRAY, BOOL, NUMBER
 
 PROGRAM = os.environ["PANEL_PROGRAM"]
 PATIENCE = 30  # seconds
 MAIN_WINDOW = "Tessary Corvane Player Preferences"
-BASE = ".orbelline/Corvane_Player"
-SETTINGS = BASE + "/tessary.example/support/corvaneplayer/sys"
-MASTER = SETTINGS + "/settings.sol"
-CACHE = ".tessary/Corvane_Player/AssetCache/a/b"
-LICENCE = ".tessary/Corvane_Player/APSPrivateData2/x/y"
 CLICKABLE = ("push button", "radio button", "check box", "page tab",
              "table column header")
 CLICK = "mousedown 1 sleep 0.15 mouseup 1".split()
-
-def file_of(site):
-    return f"{SETTINGS}/#{site}/settings.sol"
-
-
-def data_of(site):
-    return f"{BASE}/#SharedObjects/QK5SFBDP/{site}/data"
-
 
 def is_in(node, state):
     node.clear_cache()
@@ -119,44 +102,7 @@ def stored_value(data, key):
     return None
 
 
-class PanelTest(unittest.TestCase):
-    maxDiff = None
-
-    def setUp(self):
-        directory = tempfile.TemporaryDirectory()
-        self.addCleanup(directory.cleanup)
-        self.home = pathlib.Path(directory.name)
-        self.program = None
-        self.window = None
-
-    def put(self, name, data=b"x"):
-        path = self.home / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(data)
-
-    def has(self, name):
-        return (self.home / name).exists()
-
-    def read(self, name):
-        return (self.home / name).read_bytes()
-
-    def add_sites(self, *names, locations=()):
-        """Known sites with default settings, and trusted locations."""
-        self.put(MASTER, image(
-            sites(*names), entry("defaultklimit", NUMBER, 100),
-            entry("trustedPaths", ARRAY,
-                  [(os.fsencode(path), BOOL, 1) for path in locations])))
-        for name in names:
-            self.put(file_of(name), image(
-                entry("klimit", NUMBER, 100),
-                *(entry(key, BOOL, 0) for key in
-                  ("always", "allow", "p2palways", "p2pallow"))))
-
-    def disk(self):
-        """Every file: its bytes and when they were written."""
-        return {path: (path.read_bytes(), path.stat().st_mtime_ns)
-                for path in self.home.rglob("*") if path.is_file()}
-
+class PanelTest(HomeTest):
     def start(self, options="", title=MAIN_WINDOW, **environment):
         self.errors = tempfile.TemporaryFile()
         self.addCleanup(self.errors.close)
@@ -229,6 +175,16 @@ class PanelTest(unittest.TestCase):
     def expect_selected(self, row):
         self.eventually(lambda: is_in(self.get(row, "table cell"),
                                       "SELECTED"), row)
+
+    def expect_rows(self, *names):
+        """The names of sites or locations, from top to bottom."""
+        def cells():
+            return [node.get_name() for node in find_all(
+                self.window, lambda node: node.get_role_name() == "table cell")]
+        self.eventually(lambda: [
+            name for name in cells()
+            if name.endswith("example") or name[:1] == "/"] == list(names),
+                        str(names))
 
     def stored(self, key, site=None):
         return stored_value(self.read(file_of(site) if site else MASTER), key)

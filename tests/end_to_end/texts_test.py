@@ -65,30 +65,32 @@ def text(ids):
             "\n\n".join(map(text, ids)))
 
 
+def output_of(*command):
+    return subprocess.run(command, capture_output=True, text=True,
+                          check=False).stdout.strip()
+
+
 class GermanTest(PanelTest):
     def open(self, page, buttons, **environment):
-        """Returns the window from which the last button opened another."""
+        """Returns the title of the window that the last button is in."""
         self.add_sites(SITE_NAME)
-        self.start("-p " + page, title=TEXTS[11400], LC_ALL="de_DE.UTF-8",
-                   **environment)
-        opener = None
-        for button in buttons:
-            opener = self.window_id()
+        title = TEXTS[11400]
+        self.start("-p " + page, title, LC_ALL="de_DE.UTF-8", **environment)
+        for button in buttons[:-1]:
             self.click(TEXTS[button])
-            if button != buttons[-1]:
-                self.see(TEXTS[TITLES[button]])
-        return opener
+            title = TEXTS[TITLES[button]]
+            self.see(title)
+        for button in buttons[-1:]:
+            self.click(TEXTS[button])
+        return title
 
-    @staticmethod
-    def window_id():
-        return subprocess.run(["xdotool", "getactivewindow"], check=True,
-                              capture_output=True, text=True).stdout.strip()
-
-    def owner_of_window(self):
-        run = subprocess.run(
-            ["xprop", "-id", self.window_id(), "WM_TRANSIENT_FOR"],
-            capture_output=True, text=True, check=True)
-        return str(int(run.stdout.split()[-1], 16))
+    def owner_of(self, title):
+        """The title of the window that a dialog belongs to."""
+        self.eventually(lambda: output_of(
+            "xdotool", "getactivewindow", "getwindowname") == title, title)
+        owner = output_of("xprop", "-id", output_of(
+            "xdotool", "getactivewindow"), "WM_TRANSIENT_FOR").split()[-1]
+        return output_of("xdotool", "getwindowname", owner)
 
     def shown(self, are_tabs):
         nodes = find_all(self.window, lambda node: (
@@ -106,8 +108,8 @@ class GermanTest(PanelTest):
                                  [text(ids) for ids in expected])
                 self.assertEqual(self.shown(are_tabs=True),
                                  [] if buttons else [text(i) for i in TABS])
-                if opener:
-                    self.assertEqual(self.owner_of_window(), opener)
+                if buttons:
+                    self.assertEqual(self.owner_of(TEXTS[title]), opener)
                 self.end()
 
     # What the desktop opens is written to a file.
