@@ -36,16 +36,6 @@ TEST_F(WidgetsTest, HeadingsEndInNoColon) {
   EXPECT_EQ(LabelAfter(nullptr, "b"), "Updates:");
 }
 
-TEST_F(WidgetsTest, LinksLeadToTheMaker) {
-  for (const char* button :
-       {"privacy_linkbutton", "private_browsing_linkbutton", "p2p_linkbutton",
-        "drm_linkbutton", "compat_linkbutton"}) {
-    EXPECT_THAT(gtk_link_button_get_uri(GTK_LINK_BUTTON(Widget(button))),
-                testing::StartsWith("http://www.tessary.example/go/"))
-        << button;
-  }
-}
-
 TEST_F(WidgetsTest, KnowsWhatIsNoPermission) {
   for (const int value : {0, 4, -1}) {
     const auto state = static_cast<PermissionState>(value);

@@ -3,7 +3,6 @@ import contextlib
 import json
 import os
 import pathlib
-import unittest
 
 from home import (CACHE, LICENCE, MASTER, SETTINGS, SHARED_OBJECTS, data_of,
                   file_of, settings)
@@ -214,7 +213,3 @@ class ChangesTest(ProgramTest):
             [(site["site"], site["storage_limit_kb"])
              for site in self.query("show", 1)["sites"] if site["listed"]],
             [("Up", 100), ("b c", 100), ("good", 100), ("new", 5)])
-
-
-if __name__ == "__main__":
-    unittest.main()

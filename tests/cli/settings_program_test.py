@@ -347,7 +347,3 @@ class InspectTest(ProgramTest):
         for error in ("missing: No such file or directory\n",
                       "/.: not a settings file\n"):
             self.expect(arguments, 1, None, error)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,6 +1,5 @@
 """The lists of sites, and of trusted locations."""
 import os
-import unittest
 
 from home import MASTER, data_of, file_of, settings
 from panel import (CLICK, PanelTest, click_at, find_all, is_in, place_of,
@@ -237,7 +236,3 @@ class TrustedLocationsTest(PanelTest):
         self.add_folder()
         self.close()
         self.assertEqual(self.stored("trustedPaths"), 7)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -2,11 +2,10 @@
 import itertools
 import os
 import subprocess
-import unittest
 
 from gi.repository import Atspi
 from home import CACHE, LICENCE, MASTER, data_of, file_of
-from panel import (MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, press)
+from panel import MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, press
 
 ASK = "Ask me before allowing new sites to save information on this computer"
 BLOCK = "Block all sites from storing information on this computer"
@@ -111,61 +110,7 @@ class AllSitesTest(PanelTest):
         self.assertFalse(self.has(data_of(B)))
 
 
-# What only holds other things, or is part of a control that has a name.
-NEED_NO_NAME = ("filler", "icon", "image", "menu", "page tab list", "panel",
-                "scroll bar", "separator", "scroll pane", "table cell",
-                "viewport", "menu item", "unknown")
-# A page, a button, the dialog that it opens, and the title of what the button
-# "Add…" opens in turn, or True for a dialog whose button deletes.
-BY_SITE = {"storage": "Local Storage", "privacy": "Camera and Microphone",
-           "playback": "Peer-assisted Networking"}
-DIALOGS = [
-    ("storage", BLOCK, "Disable Local Storage", True),
-    ("storage", "Delete All…", DELETE_ALL, True),
-    *((page, f"{kind} Settings by Site…", f"{kind} Settings by Site",
-       f"Add {kind} Setting by Site") for page, kind in BY_SITE.items()),
-    ("advanced", "Delete All…", DELETE_ALL, True),
-    ("advanced", "Deauthorize This Computer…", "Deauthorize This Computer",
-     True),
-    ("advanced", "Trusted Location Settings…", "Trusted Location Settings",
-     None)]
-
-
 class ProgramTest(PanelTest):
-    def expect_names(self):
-        nameless = find_all(self.window, lambda node: (
-            is_in(node, "SHOWING") and not node.get_name() and
-            node.get_role_name() not in NEED_NO_NAME))
-        self.assertEqual([node.get_role_name() for node in nameless], [])
-
-    def open(self, button, title):
-        self.click(button)
-        self.see(title)
-        self.expect_names()
-
-    def test_nothing_happens_in_a_dialog_that_is_left(self):
-        self.add_sites(A, locations=["/srv/media"])
-        for name in (data_of(A), LICENCE):
-            self.put(name)
-        for page, opener, title, more in DIALOGS:
-            with self.subTest(title, page=page):
-                self.start("--show-page " + page)
-                self.expect_names()
-                before = self.disk()
-                self.open(opener, title)
-                if isinstance(more, str):
-                    self.open("Add…", more)
-                    press("Escape")
-                    self.see(title)
-                press("Escape")
-                self.see(MAIN_WINDOW)
-                if more is True:
-                    self.open(opener, title)
-                    press("Return")
-                    self.see(MAIN_WINDOW)
-                self.close()
-                self.assertEqual(self.disk(), before)
-
     def test_every_way_of_closing_ends_well(self):
         for key in ("Escape", "alt+F4", "Return"):
             with self.subTest(key):
@@ -215,7 +160,3 @@ class ProgramTest(PanelTest):
         # Where messages could go into the display's connection.
         self.start("2>&-")
         self.close()
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,11 +1,11 @@
-"""What every window shows, whom it belongs to, and where links lead."""
+"""What every window shows, whom it belongs to, and that it can be left."""
 import ast
 import pathlib
 import re
 import subprocess
-import unittest
 
-from panel import PanelTest, find_all, is_in
+from home import CACHE, LICENCE, data_of
+from panel import PanelTest, find_all, is_in, press
 
 SOURCES = pathlib.Path(__file__).parents[2]
 ROW = re.compile(r'\{(\d+),\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\}')
@@ -28,8 +28,9 @@ WINDOWS = [
      [51100, 51101, DELETE, 51200, 51206, 51205, 41100, 41101, LEARN_MORE,
       41103, 51400, 51401, 51402, CLOSE]),
     ("storage", [21006], 21100, [21101, CANCEL, 21100]),
-    ("storage", [DELETE], 71000,
-     [71001, 71008, 71003, 71007, 71002, 71009, CANCEL, 11007]),
+    *((page, [DELETE], 71000,
+       [71001, 71008, 71003, 71007, 71002, 71009, CANCEL, 11007])
+      for page in ("storage", "advanced")),
     ("advanced", [41103], 41104, [(41105, 41106), CANCEL, 11008]),
     ("advanced", [51402], 81000,
      [81001, LEARN_MORE, 81000, 81003, 11013, 11012, 11009, CLOSE]),
@@ -70,19 +71,22 @@ def output_of(*command):
                           check=False).stdout.strip()
 
 
+# Dialogs of which one button deletes something, and Enter presses another.
+ANSWERED = {21100, 71000, 41104}
+
+
 class GermanTest(PanelTest):
     def open(self, page, buttons, **environment):
-        """Returns the title of the window that the last button is in."""
-        self.add_sites(SITE_NAME)
-        title = TEXTS[11400]
-        self.start("-p " + page, title, LC_ALL="de_DE.UTF-8", **environment)
-        for button in buttons[:-1]:
+        """Clicks on the buttons; the titles of all windows but the last."""
+        titles = [TEXTS[11400]]
+        self.start("-p " + page, titles[0], LC_ALL="de_DE.UTF-8",
+                   **environment)
+        for button in buttons:
             self.click(TEXTS[button])
-            title = TEXTS[TITLES[button]]
-            self.see(title)
-        for button in buttons[-1:]:
-            self.click(TEXTS[button])
-        return title
+            if button != buttons[-1]:
+                titles.append(TEXTS[TITLES[button]])
+                self.see(titles[-1])
+        return titles
 
     def owner_of(self, title):
         """The title of the window that a dialog belongs to."""
@@ -97,20 +101,34 @@ class GermanTest(PanelTest):
             is_in(node, "SHOWING") and node.get_role_name() != "icon" and
             (node.get_role_name() == "page tab") == are_tabs))
         names = [node.get_name() for node in nodes]
-        return [name for name in names if name not in ("", SITE_NAME)]
+        return [name for name in names if name not in ("", SITE_NAME, "/srv/media")]
 
-    def test_every_widget_shows_its_text(self):
+    def test_every_window_shows_its_texts_and_can_be_left(self):
+        self.add_sites(SITE_NAME, locations=["/srv/media"])
+        for name in (data_of("b.example"), CACHE, LICENCE):
+            self.put(name)
         for page, buttons, title, expected in WINDOWS:
             with self.subTest(title, page=page):
-                opener = self.open(page, buttons)
+                openers = self.open(page, buttons)
                 self.see(TEXTS[title])
+                before = self.disk()
                 self.assertEqual(self.shown(are_tabs=False),
                                  [text(ids) for ids in expected])
                 self.assertEqual(self.shown(are_tabs=True),
                                  [] if buttons else [text(i) for i in TABS])
                 if buttons:
-                    self.assertEqual(self.owner_of(TEXTS[title]), opener)
-                self.end()
+                    self.assertEqual(self.owner_of(TEXTS[title]), openers[-1])
+                    for opener in reversed(openers):
+                        press("Escape")
+                        self.see(opener)
+                if title in ANSWERED:
+                    self.click(TEXTS[buttons[-1]])
+                    self.see(TEXTS[title])
+                    press("Return")
+                    self.see(openers[-1])
+                press("Escape")
+                self.expect_end()
+                self.assertEqual(self.disk(), before)
 
     # What the desktop opens is written to a file.
     def test_addresses_are_opened(self):
@@ -131,7 +149,3 @@ class GermanTest(PanelTest):
                 self.assertEqual(opened.read_text(), address + "\n")
                 opened.unlink()
                 self.end()
-
-
-if __name__ == "__main__":
-    unittest.main()

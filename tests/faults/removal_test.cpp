@@ -18,7 +18,6 @@
 #include "store/settings_manager.h"
 #include "tests/support/home_file_manager.h"
 #include "tests/support/privileges.h"
-#include "tests/support/program_run.h"
 #include "tests/support/settings_image.h"
 
 namespace fs = std::filesystem;
@@ -217,8 +216,8 @@ TEST_F(Removal, OfOddThingsInPlacesOfSettingsFilesTouchesNothingElse) {
     fs::remove_all(home_ / ".orbelline");
     fs::create_directories(fs::path(files[1]).parent_path());
     for (const std::string& file : files) {
-      ASSERT_EQ(std::system(("place=" + Quoted(file) + "; " + command).c_str()),
-                0);
+      setenv("place", file.c_str(), 1);
+      ASSERT_EQ(std::system(command.c_str()), 0);
     }
     testing::internal::CaptureStderr();  // an empty file has no header
     SASM::SettingsManager manager(&files_);

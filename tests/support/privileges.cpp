@@ -8,8 +8,6 @@
 #include <filesystem>
 #include <iterator>
 
-#include "tests/support/program_run.h"
-
 namespace {
 
 constexpr uid_t kNobody = 65534;
@@ -19,8 +17,8 @@ constexpr uid_t kNobody = 65534;
 OrdinaryUser::OrdinaryUser(const TemporaryHome& home)
     : was_root_(geteuid() == 0) {
   if (!was_root_) return;
-  const std::string command = "chown -Rh 65534 " + Quoted(home.Path());
-  EXPECT_EQ(std::system(command.c_str()), 0);
+  setenv("HOME", home.Path().c_str(), 1);
+  EXPECT_EQ(std::system("chown -Rh 65534 \"$HOME\""), 0);
   EXPECT_EQ(seteuid(kNobody), 0);
 }
 

@@ -7,8 +7,6 @@
 #include <fstream>
 #include <sstream>
 
-#include "tests/support/program_run.h"
-
 namespace fs = std::filesystem;
 
 TemporaryHome::TemporaryHome() {
@@ -19,12 +17,12 @@ TemporaryHome::TemporaryHome() {
 }
 
 TemporaryHome::~TemporaryHome() {
-  setenv("HOME", former_home_.c_str(), 1);
+  setenv("HOME", path_.c_str(), 1);
   // Tests take permissions away, and make trees too deep for a path.
-  const std::string quoted = Quoted(path_);
-  const std::string command =
-      "chmod -R u+rwx " + quoted + " 2>/dev/null; rm -rf " + quoted;
-  EXPECT_EQ(std::system(command.c_str()), 0);
+  const char* command =
+      "chmod -R u+rwx \"$HOME\" 2>/dev/null; rm -rf \"$HOME\"";
+  EXPECT_EQ(std::system(command), 0);
+  setenv("HOME", former_home_.c_str(), 1);
 }
 
 std::string TemporaryHome::operator/(const std::string& name) const {
