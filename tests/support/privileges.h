@@ -5,21 +5,6 @@
 
 #include <cstddef>
 
-#include "tests/support/temporary_home.h"
-
-// Takes the rights of root away, where the tests have them, so that modes of
-// files mean something; gives the home to the user who is left.
-class OrdinaryUser {
- public:
-  explicit OrdinaryUser(const TemporaryHome& home);
-  ~OrdinaryUser();
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
- private:
-  bool was_root_;
-};
-
 // Lowers a limit of the process. Going past that of file sizes is an error
 // of the write then, not the end of the process.
 class LoweredLimit {
