@@ -152,6 +152,12 @@ class OneListTest(SiteListTest):
             self.assertEqual(self.disk(), before)
             press("Escape")
 
+    def test_the_settings_are_read_again(self):
+        self.open(STORAGE, A)
+        self.add_sites(B, A)
+        press("F5")
+        self.expect_rows(B, A)
+
     def test_a_menu_opens_with_the_row_s_choice_under_the_pointer(self):
         self.open(CAMERA, A)
         before = self.read(file_of(A))
@@ -182,6 +188,7 @@ class TrustedLocationsTest(PanelTest):
         self.click("Add Folder…")
         self.see("Choose the trusted directory")
         self.get(self.home.name, "toggle button")
+        press("alt+o")  # nothing chosen yet
         write(self.folder)
         press("Return")
         self.see("Trusted Location Settings")
@@ -202,6 +209,11 @@ class TrustedLocationsTest(PanelTest):
         self.select("/b", "/d")
         press("Delete")
         self.expect_locations("/c", self.folder, self.folder)
+        self.select("/c")
+        press("Return")
+        write("/e")
+        click_at(self.get("Close", "push button"))
+        self.expect_locations("/e", self.folder, self.folder)
 
     # The rows are then in another order than the stored list.
     def test_the_row_is_meant_in_a_sorted_list(self):
