@@ -13,8 +13,9 @@ namespace {
 void OpenStandardStreams() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
     if (fcntl(stream, F_GETFD) >= 0) continue;
-    // The lowest free descriptor is this one.
-    if (open("/dev/null", O_RDONLY) != stream) std::_Exit(EXIT_FAILURE);
+    // The lowest free descriptor is this one, and stays open.
+    const int opened = open("/dev/null", O_RDONLY);
+    if (opened != stream) std::_Exit(EXIT_FAILURE);
   }
 }
 

@@ -43,6 +43,7 @@ test_packages=(
   cppcheck            # finds other faults in the code
   dbus                # the message bus of the accessibility tree
   desktop-file-utils  # checks the desktop entry
+  gir1.2-atspi-2.0    # the accessibility tree for the tests of the window
   jq                  # reads JSON in scripts and tests
   libatk-adaptor      # connects the toolkit to the accessibility tree
   libgail-common      # the toolkit's part of the accessibility tree
@@ -52,8 +53,10 @@ test_packages=(
   locales             # sources of the locales that scripts/make_locales makes
   man-db              # checks the manual pages
   openbox             # a window manager: without one no window has the focus
-  python3             # makes the seeds of the fuzz programs
+  python3             # runs the tests of both programs
+  python3-gi          # lets Python read the accessibility tree
   shellcheck          # checks the scripts
+  x11-utils           # tells which window a dialog belongs to
   xdotool             # types and clicks in the windows
 )
 

@@ -93,7 +93,7 @@ bool IsComplete(const FileImage& image) {
 
 SimpleString DirectoryOf(const SimpleString& path) {
   const std::string text = path.c_str();
-  return text.substr(0, text.rfind('/')).c_str();
+  return SimpleString(text.substr(0, text.rfind('/')).c_str());
 }
 
 bool WriteBytes(int file, std::span<const unsigned char> bytes) {

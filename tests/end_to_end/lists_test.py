@@ -65,7 +65,7 @@ class StorageListTest(SiteListTest):
         self.open(self.which, A, B, C)
         before = self.read(file_of(B))
         for choice in (BLOCK, ALLOW, ASK):
-            self.select(A, C)
+            self.select(C, A)
             press("Right Right Return")
             self.get(ALLOW, "menu item")
             press(KEYS[choice] + " Return")
@@ -73,6 +73,8 @@ class StorageListTest(SiteListTest):
             self.expect_state(C, choice)
             # By then the rows are others, and none is selected.
             self.get(choice, "table cell")
+            press("Down")
+            self.expect_selected(B)
         self.assertEqual(self.read(file_of(B)), before)
 
     # By reversed name, or by permission; the order outlives a change.
@@ -91,6 +93,8 @@ class StorageListTest(SiteListTest):
         self.click("Remove")
         self.expect_stored(["shop.a.example", A], "domains")
         self.expect_no_selection()
+        press("Down")
+        self.expect_selected(A)
         self.close()
         self.assertFalse(self.has(data_of("example")))
         self.assertFalse(self.has(file_of("z.b.example")))
@@ -122,10 +126,17 @@ class OneListTest(SiteListTest):
     def test_typing_finds_a_site_and_delete_removes_it(self):
         self.open(CAMERA, A, B, "sunny.example", "z.example")
         self.assertTrue(self.get(self.title, "table").grab_focus())
-        write("sun")
+        write("NNY")
         self.expect_selected("sunny.example")
         press("Return Delete")
         self.expect_stored([A, B, "z.example"], "domains")
+        self.select(A, "z.example")
+        for answer in ("Escape", "Return", "Tab Return"):
+            press("Delete")
+            self.see("Confirmation Needed")
+            press(answer)
+            self.see(self.title)
+        self.expect_stored([B], "domains")
 
     # A click on the permission of a selected row keeps the selection; a double
     # click opens the menu and chooses nothing, whatever is under the pointer.
