@@ -31,7 +31,7 @@ bool Fits(GtkTreeView* view, const std::string& text, int room) {
 // the rest of the room behind the ellipsis.
 std::string FittingName(GtkTreeView* view, const SASM::SimpleString& name,
                         int room) {
-  const std::string text = ShownName(name);
+  std::string text = ShownName(name);
   if (Fits(view, text, room)) return text;
   std::size_t fits = 1;
   std::size_t too_long = kLongestShownName;

@@ -16,7 +16,6 @@
 #include "strings/string_manager.h"
 
 using SASM::SDIVector;
-using SASM::SimpleString;
 
 namespace {
 
@@ -44,8 +43,9 @@ std::string StateText(const PermissionSettings& settings, PermissionKind kind,
   std::string text = TextOf(strings, choice.site_text_id);
   if (kind != kStorage) return text;
   const double limit_kb = settings.storage_limit_kb;
-  if (limit_kb > 0)
+  if (limit_kb > 0) {
     text += " (" + StorageSetting::TextOfSpace(limit_kb * 1024) + ")";
+  }
   if (limit_kb == kUnlimited) text += " (∞)";
   return text;
 }

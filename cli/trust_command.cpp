@@ -12,9 +12,6 @@
 #include "settings/settings_format.h"
 #include "strings/printable_text.h"
 
-using SASM::SDIVector;
-using SASM::SimpleString;
-
 namespace {
 
 bool AreLocations(const std::vector<const char*>& paths) {

@@ -31,7 +31,7 @@ std::string Print(const json_t* value) {
   std::FILE* file = open_memstream(&text, &size);
   PrintJson(value, 0, file);
   std::fclose(file);
-  const std::string printed(text, size);
+  std::string printed(text, size);
   std::free(text);
   return printed;
 }
