@@ -50,7 +50,7 @@ void OpenLoadedStore(const SiteHome& home) {
   }
 }
 
-// Of the site in the middle of the list.
+// Changes the site in the middle of the list.
 void MeasureOneChange(const SiteHome& home, sqlite3* database) {
   const std::size_t middle = home.Sites().size() / 2;
   const std::string& site = home.Sites()[middle];

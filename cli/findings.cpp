@@ -102,7 +102,7 @@ class FaultSearch {
     if (site.find_first_of(" \t\n\r\f\v") != site.npos) {
       return "has a blank and matches no site";
     }
-    // Of all else that is visible only a backslash is escaped.
+    // Visible characters stay as they are, except for the backslash.
     std::string visible = Printable(site);
     for (std::size_t at = 0; (at = visible.find("\\\\", at)) != visible.npos;) {
       visible.erase(at++, 1);
@@ -132,7 +132,7 @@ class FaultSearch {
               "is not the first one, the data of sites is elsewhere");
     }
     if (directories.empty()) return;
-    // Of "a/b" the data is below "a".
+    // The data of "a/b" is below "a".
     std::unordered_set<std::string> listed;
     const SASM::SDIVector* sites = store_.ListedSites();
     for (unsigned int i = 0; sites && i < sites->count; ++i) {

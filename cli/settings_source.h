@@ -27,8 +27,8 @@ struct SettingsOnDisk {
   // Null when the file cannot be read as settings.
   std::unique_ptr<SASM::SettingsDictionary> dictionary;
   bool is_missing = false;
-  // Of a file that is unreadable or damaged, even if a part of it could be
-  // read. None of a missing file.
+  // What is wrong with a file that is unreadable or damaged, even if a part of
+  // it could be read. Nothing for a missing file.
   FileProblem problem;
 
   [[nodiscard]] bool IsIntact() const {

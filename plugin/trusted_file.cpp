@@ -33,7 +33,7 @@ bool IsTrustedDirectory(const char* path) {
          (!IsWritableByOthers(info) || (info.st_mode & S_ISVTX) != 0);
 }
 
-// Of an absolute path without links.
+// `path` is absolute and without links.
 bool AreDirectoriesAboveTrusted(std::string path) {
   while (path != "/") {
     const std::size_t separator = path.rfind('/');

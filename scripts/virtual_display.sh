@@ -1,8 +1,8 @@
 # shellcheck shell=bash
 # To be sourced by scripts that show windows where there is no display.
 
-# Runs a command in a virtual display of its own. By default a server starts
-# anew when its last window has gone, and refuses whoever comes just then.
+# Runs a command in a virtual display of its own. By default a server
+# restarts when its last window has gone, and refuses clients meanwhile.
 in_virtual_display() {
   xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$@"
 }

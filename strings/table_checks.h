@@ -115,7 +115,7 @@ constexpr RowFault FirstFaultOfIds(std::span<const TextRow> rows) {
   return {};
 }
 
-// Of rows whose ids are ascending.
+// The ids of both are ascending.
 constexpr RowFault FirstDifference(std::span<const TextRow> english,
                                    std::span<const TextRow> rows) {
   for (std::size_t i = 0; i < rows.size(); ++i) {

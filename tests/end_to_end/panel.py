@@ -37,7 +37,7 @@ def place_of(node):
 
 
 def children(node):
-    """Each looked at anew."""
+    """As they are now, not as they were."""
     for i in range(node.get_child_count()):
         if (child := node.get_child_at_index(i)) is not None:
             child.clear_cache()

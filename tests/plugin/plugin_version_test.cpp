@@ -40,7 +40,7 @@ class PluginVersion : public testing::Test {
   void Search(const std::string& items) const {
     setenv("MOZ_PLUGIN_PATH", items.c_str(), 1);
   }
-  // A command that does what the shell is told.
+  // A command that runs the shell lines given.
   void MakeLocate(const std::string& body) const {
     home_.Write("bin/locate", "#!/bin/sh\n" + body + "\n");
     fs::permissions(home_ / "bin/locate", fs::perms::owner_all);

@@ -119,7 +119,7 @@ int __openat_2(int directory, const char* path, int flags) {
   return openat(directory, path, flags);
 }
 
-// Of openat2, which the C library has no function for, and of other calls with
+// For openat2, which the C library has no function for, and other calls with
 // up to four arguments.
 long syscall(long number, ...) {
   va_list arguments;
