@@ -128,8 +128,19 @@ std::vector<SettingsEdit::KeyChange> SettingsEdit::KeyChanges() const {
   return changes;
 }
 
+std::vector<const char*> SettingsEdit::KeysOf(
+    const Permission& permission) const {
+  if (is_master_) return {permission.global_key};
+  if (permission.limit_key) return {permission.limit_key};
+  return {permission.always_key, permission.allow_key};
+}
+
 std::string SettingsEdit::Word(const Permission& permission,
                                const SettingsDictionary& settings) const {
+  const auto is_missing = [&](const char* key) {
+    return !SASM::FindSetting(key, settings);
+  };
+  if (std::ranges::all_of(KeysOf(permission), is_missing)) return kUnset;
   if (permission.limit_key) {
     return LimitWord(is_master_ ? GlobalLimitKb(&settings)
                                 : StoredLimitKb(&settings));
@@ -147,11 +158,7 @@ void SettingsEdit::AddPermissionLine(const Permission& permission,
   if (before == after) return;
   lines->push_back(Printable(SubjectOf(domain_)) + ": " + permission.word +
                    " " + before + kArrow + after);
-  if (is_master_) return told->push_back(permission.global_key);
-  for (const char* key :
-       {permission.limit_key, permission.always_key, permission.allow_key}) {
-    if (key) told->push_back(key);
-  }
+  for (const char* key : KeysOf(permission)) told->push_back(key);
 }
 
 std::vector<std::string> SettingsEdit::Lines() const {

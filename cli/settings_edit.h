@@ -24,7 +24,8 @@ class SettingsEdit {
   // Inserts into both.
   void InsertDefaults(const SASM::SettingsDictionary& master);
 
-  // One line for each difference: "SITE: camera ask → allow".
+  // One line for each permission that differs: "SITE: camera ask → allow". One
+  // for each other key, and where the words for a permission are the same.
   [[nodiscard]] std::vector<std::string> Lines() const;
   // Makes the differences and writes once; the result of the write.
   [[nodiscard]] std::function<bool(SASM::SettingsManager&)> Application() const;
@@ -38,6 +39,10 @@ class SettingsEdit {
   void AddPermissionLine(const Permission& permission,
                          std::vector<std::string>* lines,
                          std::vector<std::string>* told) const;
+  // The keys that hold it in this domain.
+  [[nodiscard]] std::vector<const char*> KeysOf(
+      const Permission& permission) const;
+  // The state or the limit, or "unset" where no key is there.
   [[nodiscard]] std::string Word(
       const Permission& permission,
       const SASM::SettingsDictionary& settings) const;

@@ -18,7 +18,9 @@ POLICY = {
         {"site": "a.example", "settings": [
             {"key": "klimit", "value": -1},
             {"key": "p2palways", "value": True}]},
-        {"site": "e", "listed": False, "settings": []}]}
+        {"site": "e", "listed": False, "settings": [
+            {"key": "klimit", "value": 5}, {"key": "allow", "value": False},
+            {"key": "k", "value": "x"}]}]}
 # Each row works on what the rows above have left.
 CHANGES = [
     ("set --add storage=250 camera=allow a.example b.example",
@@ -42,10 +44,11 @@ CHANGES = [
     ("remove d.example", "d.example: stored data deleted"),
     ("trust /t/1 /t/2 /t/1", "/t/1: trusted", "/t/2: trusted"),
     ("untrust /t/1 /t/3", "/t/1: no longer trusted"),
-    ("import ~/policy", "all sites: x unset → nan", "/p: trusted", "e: added"),
+    ("import ~/policy", "all sites: x unset → nan", "/p: trusted", "e: added",
+     "e: storage unset → 5", "e: camera unset → ask", 'e: k unset → "x"'),
     ("import --replace ~/policy", "all sites: storage 7 → allow",
      "all sites: network block → ask", "/t/2: no longer trusted",
-     "b.example: removed", "a.example: camera block → ask",
+     "b.example: removed", "a.example: camera block → unset",
      "a.example: p2pallow false → unset"),
     ("clear --keep a.example settings", "e: removed"),
     ("clear settings cache licences storage", "all sites: stored data deleted",
