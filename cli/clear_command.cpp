@@ -199,8 +199,7 @@ void ClearCommand::ClearOldStorage() {
 
 void ClearCommand::ClearAllSettings() {
   const SimpleString directory = store_.Layout().SettingsDirectory();
-  const SASM::SDIVector* listed = store_.ListedSites();
-  if (HoldsNoSites(directory) && (!listed || listed->count == 0)) return;
+  if (HoldsNoSites(directory) && store_.ListedSites().empty()) return;
   changes_.Add({kAllSitesSubject,
                 {"all sites: settings removed"},
                 [directory](SettingsManager& manager) {

@@ -21,17 +21,16 @@ using About = Finding::About;
 class FaultSearch {
  public:
   FaultSearch(const StoreView& store, const SASM::FileManager& files)
-      : store_(store),
-        files_(files),
-        layout_(store.Layout()),
-        with_file_(SASM::SitesWithSettingsFile(layout_)) {}
+      : store_(store), files_(files), layout_(store.Layout()) {}
 
   std::vector<Finding> Run() {
     if (!layout_.IsOnDisk()) return {};
     AddDamage(layout_.SettingsFileOf(SASM::MasterDomainName()),
               store_.MasterProblem());
     LookAtList();
-    for (const std::string& site : with_file_) LookAtSettings(site);
+    for (const std::string& site : SASM::SitesWithDirectory(layout_)) {
+      LookAtSettings(site);
+    }
     LookAtData();
     for (const SimpleString& directory :
          {layout_.BaseDirectory(), files_.GetAssetCacheDirectory(),
@@ -57,20 +56,18 @@ class FaultSearch {
   }
 
   bool HasFile(const std::string& site) const {
-    return std::ranges::binary_search(with_file_, site);
+    return store_.HasSettings(site.c_str()) ||
+           !ReadSettings(layout_.SettingsFileOf(site.c_str())).is_missing;
   }
 
   void LookAtList() {
     std::unordered_map<std::string, int> counts;
-    const SASM::SDIVector* listed = store_.ListedSites();
-    for (unsigned int i = 0; listed && i < listed->count; ++i) {
-      const std::string site = listed->At(i)->name.c_str();
+    for (const std::string& site : store_.ListedSites()) {
       const int count = ++counts[site];
       if (count == 2) AddSite("duplicate-name", site, "is listed twice");
       if (count > 1) continue;
       LookAtName(site);
-      // Behind a link in the place of its directory it has one, too.
-      if (!HasFile(site) && !store_.HasSettings(site.c_str())) {
+      if (!HasFile(site)) {
         AddSite("missing-file", site, "is listed and has no settings file");
       }
     }
@@ -80,7 +77,7 @@ class FaultSearch {
     const SimpleString file = layout_.SettingsFileOf(site.c_str());
     const SettingsOnDisk on_disk = ReadSettings(file);
     AddDamage(file, on_disk.problem);
-    if (store_.IsListed(site)) return;
+    if (on_disk.is_missing || store_.IsListed(site)) return;
     LookAtName(site);
     if (on_disk.problem.Exists()) return;
     AddSite(kUnlistedSettings, site, "has settings and is not listed");
@@ -134,9 +131,7 @@ class FaultSearch {
     if (directories.empty()) return;
     // The data of "a/b" is below "a".
     std::unordered_set<std::string> listed;
-    const SASM::SDIVector* sites = store_.ListedSites();
-    for (unsigned int i = 0; sites && i < sites->count; ++i) {
-      const std::string site = sites->At(i)->name.c_str();
+    for (const std::string& site : store_.ListedSites()) {
       listed.insert(site.substr(0, site.find('/')));
     }
     for (const std::string& site : Listing(layout_.LocalStorageDirectory())) {
@@ -163,7 +158,6 @@ class FaultSearch {
   const StoreView& store_;
   const SASM::FileManager& files_;
   const SASM::StoreLayout& layout_;
-  const std::vector<std::string> with_file_;
   std::vector<Finding> findings_;
 };
 

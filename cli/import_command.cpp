@@ -65,7 +65,7 @@ class ImportCommand {
 
   void SetLocations(const std::vector<std::string>& locations) {
     std::vector<std::string> all;
-    if (!replaces_) all = NamesIn(store_.TrustedLocations());
+    if (!replaces_) all = store_.TrustedLocations();
     AddLocations(locations, &all);
     changes_.Add(ChangeOfLocations(all, store_));
   }

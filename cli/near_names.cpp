@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/error_messages.h"
 #include "strings/printable_text.h"
 
 namespace {
@@ -22,14 +23,19 @@ bool IsBelow(const std::string& site, const std::string& domain) {
 
 }  // namespace
 
-std::string SuggestSites(std::string_view name,
-                         const std::vector<std::string>& sites) {
+void UnknownSites::Report(std::string_view name, std::string_view advice) {
+  PrintError(name, "no such site" + Suggestion(name).append(advice));
+}
+
+std::string UnknownSites::Suggestion(std::string_view name) {
   const std::string wanted = InLowerCase(name);
   if (wanted.empty()) return "";
+  if (!known_) known_ = store_.KnownSites();
   std::string text;
   int count = 0;
-  for (const std::string& site : sites) {
+  for (const std::string& site : *known_) {
     const std::string lower = InLowerCase(site);
+    if (site == name) continue;  // listed, without settings
     if (lower != wanted && !IsBelow(lower, wanted) && !IsBelow(wanted, lower)) {
       continue;
     }

@@ -73,7 +73,7 @@ bool CheckRequest(const CommandLine& line, const Request& request) {
 class SetCommand {
  public:
   explicit SetCommand(const CommandLine& line)
-      : line_(line), store_(files_), sites_(store_.SitesWithSettings()) {}
+      : line_(line), store_(files_), unknown_(store_) {}
 
   ExitStatus Run(const Request& request) {
     if (!MayChange(store_)) return kFailure;
@@ -117,8 +117,8 @@ class SetCommand {
     PutGlobally(change, &edit.After());
     changes_.Add(edit.ToChange());
     if (change.is_limit || change.permission->switch_overrides_sites) return;
-    for (const std::string& site : sites_) {
-      if (store_.IsListed(site)) SetForKnownSite(site.c_str(), {change});
+    for (const std::string& site : store_.ListedSitesWithSettings()) {
+      SetForKnownSite(site.c_str(), {change});
     }
   }
 
@@ -128,9 +128,7 @@ class SetCommand {
       return AddSite(site, permissions);
     }
     if (store_.IsKnown(site)) return SetForKnownSite(site, permissions);
-    PrintError(site.c_str(), "no such site" +
-                                 SuggestSites(site.c_str(), sites_) +
-                                 "; --add adds it");
+    unknown_.Report(site.c_str(), "; --add adds it");
     status_ = kFailure;
   }
 
@@ -184,7 +182,7 @@ class SetCommand {
   const CommandLine& line_;
   const LinuxFileManager files_;
   const StoreView store_;
-  const std::vector<std::string> sites_;
+  UnknownSites unknown_;
   Changes changes_;
   ExitStatus status_ = kSuccess;
 };

@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <cinttypes>
 #include <string>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "cli/commands.h"
@@ -14,8 +17,6 @@
 #include "platform/tree_size.h"
 #include "strings/printable_text.h"
 #include "strings/string_manager.h"
-
-using SASM::SDIVector;
 
 namespace {
 
@@ -88,10 +89,10 @@ void PrintSites(const std::vector<SiteSettings>& sites, bool are_listed,
   table.Print();
 }
 
-void PrintLocations(const SDIVector* locations, StringManager* strings) {
+void PrintLocations(const StoreView& store, StringManager* strings) {
   std::printf("\n%s\n", TextOf(strings, kLocationsTitle).c_str());
-  for (unsigned int i = 0; locations && i < locations->count; ++i) {
-    std::printf("  %s\n", Printable(locations->At(i)->name.c_str()).c_str());
+  for (const std::string& location : store.TrustedLocations()) {
+    std::printf("  %s\n", Printable(location).c_str());
   }
 }
 
@@ -117,30 +118,38 @@ json_t* NewSite(const SiteSettings& site) {
   return object;
 }
 
-json_t* NewLocations(const SDIVector* locations) {
+json_t* NewGlobal(const StoreView& store) {
+  json_t* global = json_object();
+  SetPermissions(store.Global(), global);
+  Set(global, "damaged", json_boolean(!store.IsIntact()));
+  return global;
+}
+
+json_t* NewLocations(const StoreView& store) {
   json_t* array = json_array();
-  for (unsigned int i = 0; locations && i < locations->count; ++i) {
-    json_array_append_new(array, NewShownText(locations->At(i)->name.c_str()));
+  for (const std::string& location : store.TrustedLocations()) {
+    json_array_append_new(array, NewShownText(location));
   }
   return array;
 }
 
+void PrintAsJson(json_t* value) {
+  PrintJson(Json(value).get(), JSON_COMPACT, stdout);
+}
+
+// Site by site: one value that held all would be large.
 void PrintStoreAsJson(const StoreView& store,
-                      const std::vector<SiteSettings>& shown) {
-  json_t* global = json_object();
-  SetPermissions(store.Global(), global);
-  Set(global, "damaged", json_boolean(!store.IsIntact()));
-  json_t* sites = json_array();
-  for (const SiteSettings& site : shown) {
-    json_array_append_new(sites, NewSite(site));
+                      const std::vector<SiteSettings>& sites) {
+  std::fputs("{\"global\":", stdout);
+  PrintAsJson(NewGlobal(store));
+  std::fputs(",\"sites\":[", stdout);
+  for (const SiteSettings& site : sites) {
+    if (&site != sites.data()) std::putchar(',');
+    PrintAsJson(NewSite(site));
   }
-  const Json document(json_object());
-  Set(document.get(), "global", global);
-  Set(document.get(), "sites", sites);
-  Set(document.get(), "trusted_locations",
-      NewLocations(store.TrustedLocations()));
-  PrintJson(document.get(), JSON_COMPACT, stdout);
-  std::putchar('\n');
+  std::fputs("],\"trusted_locations\":", stdout);
+  PrintAsJson(NewLocations(store));
+  std::puts("}");
 }
 
 bool HasUnlisted(const std::vector<SiteSettings>& sites) {
@@ -153,17 +162,17 @@ void PrintStoreAsText(const StoreView& store,
   PrintGlobal(store.Global(), &strings);
   PrintSites(sites, true, TextOf(&strings, kWebsiteTitle), &strings);
   if (HasUnlisted(sites)) PrintSites(sites, false, "Not listed", &strings);
-  PrintLocations(store.TrustedLocations(), &strings);
+  PrintLocations(store, &strings);
 }
 
 // What the user asked for.
 struct Selection {
   // Sites; all when there are none.
-  std::vector<const char*> names;
+  std::unordered_set<std::string_view> names;
   std::vector<PermissionChange> filters;
 
   [[nodiscard]] bool Includes(const std::string& site) const {
-    return names.empty() || std::ranges::count(names, site) > 0;
+    return names.empty() || names.contains(site);
   }
   // A site must meet all conditions.
   [[nodiscard]] bool Includes(const SiteSettings& site) const {
@@ -174,7 +183,7 @@ struct Selection {
 };
 
 bool ParseSelection(const CommandLine& line, Selection* selection) {
-  selection->names = line.words;
+  selection->names = {line.words.begin(), line.words.end()};
   for (const char* text : line.ArgumentsOf(kPermission)) {
     PermissionChange filter;
     if (!ParsePermission(text, Limits::kRefused, &filter)) {
@@ -186,33 +195,33 @@ bool ParseSelection(const CommandLine& line, Selection* selection) {
   return true;
 }
 
-// Reports the names that are those of no site. How many there are.
-std::size_t ReportUnknown(const Selection& selection,
-                          const std::vector<std::string>& sites) {
+// The sites with these names.
+std::vector<SiteSettings> ReadSites(const StoreView& store,
+                                    const Selection& selection) {
+  const SharedMeasurement measurement;
+  std::vector<SiteSettings> sites;
+  for (const std::string& name : store.PossibleSites()) {
+    if (!selection.Includes(name)) continue;
+    auto site = store.Read(name);
+    if (site) sites.push_back(std::move(*site));
+  }
+  return sites;
+}
+
+// Reports the names of the command line that are not among the sites. How many
+// there are.
+std::size_t ReportUnknown(const CommandLine& line, const StoreView& store,
+                          const std::vector<SiteSettings>& sites) {
+  std::unordered_set<std::string_view> known;
+  for (const SiteSettings& site : sites) known.insert(site.name);
+  UnknownSites unknown(store);
   std::size_t count = 0;
-  for (const char* name : selection.names) {
-    if (std::ranges::count(sites, name) > 0) continue;
-    PrintError(name, "no such site" + SuggestSites(name, sites));
+  for (const char* name : line.words) {
+    if (known.contains(name)) continue;
+    unknown.Report(name);
     ++count;
   }
   return count;
-}
-
-// The sites of the selection. When one is damaged, reports it and sets
-// `*succeeded` to false.
-std::vector<SiteSettings> ReadSites(const StoreView& store,
-                                    const std::vector<std::string>& names,
-                                    const Selection& selection,
-                                    bool* succeeded) {
-  const SharedMeasurement measurement;
-  std::vector<SiteSettings> sites;
-  for (const std::string& name : names) {
-    if (!selection.Includes(name)) continue;
-    SiteSettings site = store.Read(name);
-    *succeeded = *succeeded && site.is_intact;
-    if (selection.Includes(site)) sites.push_back(std::move(site));
-  }
-  return sites;
 }
 
 bool CheckNames(const CommandLine& line) {
@@ -227,8 +236,7 @@ bool CheckNames(const CommandLine& line) {
 }
 
 ExitStatus PrintNames(const StoreView& store, const CommandLine& line) {
-  for (const std::string& site : store.SitesWithSettings()) {
-    if (!store.IsListed(site)) continue;
+  for (const std::string& site : store.ListedSitesWithSettings()) {
     const bool is_raw = line.Has(kNull);
     const std::string text = is_raw ? site : Printable(site);
     std::fwrite(text.data(), 1, text.size(), stdout);
@@ -245,14 +253,16 @@ ExitStatus RunShow(const CommandLine& line) {
   if (!CheckNames(line)) return kUsageError;
   const LinuxFileManager files;
   const StoreView store(files);
-  bool succeeded = store.ReportProblem();
+  const bool is_intact = store.ReportProblem();
   if (line.Has(kNames)) return PrintNames(store, line);
-  const std::vector<std::string> names = store.SitesWithSettings();
-  const std::size_t unknown = ReportUnknown(selection, names);
-  if (unknown > 0 && unknown == selection.names.size()) return kFailure;
-  const std::vector<SiteSettings> sites =
-      ReadSites(store, names, selection, &succeeded);
+  std::vector<SiteSettings> sites = ReadSites(store, selection);
+  const std::size_t unknown = ReportUnknown(line, store, sites);
+  if (unknown > 0 && unknown == line.words.size()) return kFailure;
+  const bool are_intact = std::ranges::all_of(sites, &SiteSettings::is_intact);
+  std::erase_if(sites, [&](const SiteSettings& site) {
+    return !selection.Includes(site);
+  });
   line.Has(kJson) ? PrintStoreAsJson(store, sites)
                   : PrintStoreAsText(store, sites);
-  return succeeded && unknown == 0 ? kSuccess : kFailure;
+  return is_intact && are_intact && unknown == 0 ? kSuccess : kFailure;
 }

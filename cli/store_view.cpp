@@ -14,6 +14,21 @@ using SASM::SDIVector;
 using SASM::SettingsDictionary;
 using SASM::SimpleString;
 
+namespace {
+
+// The names of the elements of an array; none if there is no array.
+std::vector<std::string> NamesIn(const char* key,
+                                 const SettingsDictionary& settings) {
+  std::vector<std::string> names;
+  const SDIVector* array = SASM::ArrayOrNull(FindSetting(key, settings));
+  for (unsigned int i = 0; array && i < array->count; ++i) {
+    names.emplace_back(array->At(i)->name.c_str());
+  }
+  return names;
+}
+
+}  // namespace
+
 StoreView::StoreView(const SASM::FileManager& files)
     : files_(files), layout_(&files) {
   if (layout_.IsOnDisk()) {
@@ -25,7 +40,8 @@ StoreView::StoreView(const SASM::FileManager& files)
   if (!master_) master_ = std::make_unique<SettingsDictionary>();
   SASM::InsertMissingDefaults(SASM::DefaultMasterSettings(), *master_,
                               master_.get());
-  const SDIVector* listed = ListedSites();
+  const SDIVector* listed =
+      SASM::ArrayOrNull(FindSetting(SASM::kDomains, *master_));
   for (unsigned int i = 0; listed && i < listed->count; ++i) {
     listed_.insert(listed->At(i)->name.c_str());
   }
@@ -48,44 +64,49 @@ PermissionSettings StoreView::Global() const {
   return global;
 }
 
-const SDIVector* StoreView::TrustedLocations() const {
-  return SASM::ArrayOrNull(FindSetting(SASM::kTrustedPaths, *master_));
+std::vector<std::string> StoreView::TrustedLocations() const {
+  return NamesIn(SASM::kTrustedPaths, *master_);
 }
 
-const SDIVector* StoreView::ListedSites() const {
-  return SASM::ArrayOrNull(FindSetting(SASM::kDomains, *master_));
+std::vector<std::string> StoreView::ListedSites() const {
+  return NamesIn(SASM::kDomains, *master_);
 }
 
 bool StoreView::HasSettings(const SimpleString& site) const {
   return SASM::HasSettingsFile(site, layout_);
 }
 
-std::vector<std::string> StoreView::SitesWithSettings() const {
-  std::vector<std::string> sites;
-  const SDIVector* listed = ListedSites();
-  for (unsigned int i = 0; listed && i < listed->count; ++i) {
-    const SimpleString& name = listed->At(i)->name;
-    if (HasSettings(name)) sites.emplace_back(name.c_str());
-  }
-  for (std::string& site : SASM::SitesWithSettingsFile(layout_)) {
-    if (IsListed(site) || !HasSettings(site.c_str())) continue;
-    sites.push_back(std::move(site));
+std::vector<std::string> StoreView::PossibleSites() const {
+  std::vector<std::string> sites = ListedSites();
+  for (std::string& site : SASM::SitesWithDirectory(layout_)) {
+    if (!IsListed(site)) sites.push_back(std::move(site));
   }
   return sites;
 }
 
+std::vector<std::string> StoreView::ListedSitesWithSettings() const {
+  std::vector<std::string> sites = ListedSites();
+  std::erase_if(sites, [this](const std::string& site) {
+    return !HasSettings(site.c_str());
+  });
+  return sites;
+}
+
 std::vector<std::string> StoreView::KnownSites() const {
-  std::vector<std::string> sites = SitesWithSettings();
-  sites.insert(sites.end(), listed_.begin(), listed_.end());
+  std::vector<std::string> sites = PossibleSites();
+  std::erase_if(sites, [this](const std::string& site) {
+    return !IsKnown(site.c_str());
+  });
   std::ranges::sort(sites);
   sites.erase(std::unique(sites.begin(), sites.end()), sites.end());
   return sites;
 }
 
-SiteSettings StoreView::Read(const std::string& site) const {
+std::optional<SiteSettings> StoreView::Read(const std::string& site) const {
   const SimpleString name = site.c_str();
   const SimpleString file = layout_.SettingsFileOf(name);
   const SettingsOnDisk on_disk = ReadSettings(file);
+  if (!on_disk.IsIntact() && !HasSettings(name)) return std::nullopt;
   if (on_disk.problem.Exists()) PrintProblem(file.c_str(), on_disk.problem);
   SiteSettings settings;
   settings.name = site;

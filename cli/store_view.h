@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -50,35 +51,37 @@ class StoreView {
     return *master_;
   }
   [[nodiscard]] PermissionSettings Global() const;
-  // Lists whose elements are named by a path or a site. Borrowed; null when
-  // nothing is stored.
-  [[nodiscard]] const SASM::SDIVector* TrustedLocations() const;
-  [[nodiscard]] const SASM::SDIVector* ListedSites() const;
+  // As stored, some perhaps more than once.
+  [[nodiscard]] std::vector<std::string> TrustedLocations() const;
+  [[nodiscard]] std::vector<std::string> ListedSites() const;
 
   [[nodiscard]] bool IsListed(std::string_view site) const {
-    return listed_.contains(std::string(site));
+    return listed_.contains(site);
   }
   // More than 1 for a name that is listed again.
   [[nodiscard]] std::size_t CountInList(std::string_view site) const {
-    return listed_.count(std::string(site));
+    return listed_.count(site);
   }
   // The panel shows only listed sites that have settings.
   [[nodiscard]] bool HasSettings(const SASM::SimpleString& site) const;
   [[nodiscard]] bool IsKnown(const SASM::SimpleString& site) const {
     return IsListed(site.c_str()) || HasSettings(site);
   }
-  // The sites that have settings: those that are listed in the order of the
-  // list, then the others by name.
-  [[nodiscard]] std::vector<std::string> SitesWithSettings() const;
-  // These, and the listed names without settings. By name, each once.
+  // The sites on the list, in its order, then the others that have a directory,
+  // by name. Some may have no settings.
+  [[nodiscard]] std::vector<std::string> PossibleSites() const;
+  // Those on the list that have settings.
+  [[nodiscard]] std::vector<std::string> ListedSitesWithSettings() const;
+  // The possible sites that are known. By name, each once.
   [[nodiscard]] std::vector<std::string> KnownSites() const;
-  // Prints what is wrong with the file.
-  [[nodiscard]] SiteSettings Read(const std::string& site) const;
+  // None for a site without settings. Prints what is wrong with the file.
+  [[nodiscard]] std::optional<SiteSettings> Read(const std::string& site) const;
 
  private:
   const SASM::FileManager& files_;
   SASM::StoreLayout layout_;
   std::unique_ptr<SASM::SettingsDictionary> master_;
   FileProblem problem_;
-  std::unordered_multiset<std::string> listed_;
+  // Texts of the master settings.
+  std::unordered_multiset<std::string_view> listed_;
 };

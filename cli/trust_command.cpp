@@ -34,43 +34,45 @@ std::string Absolute(const std::string& path) {
   return start + (start.ends_with('/') ? "" : "/") + path;
 }
 
-void Remove(const std::string& path, std::vector<std::string>* locations) {
-  // An entry may be any text that somebody has typed.
-  if (std::erase(*locations, path) == 0) {
+using Paths = std::vector<const char*>;
+using Locations = std::vector<std::string>;
+
+// False when a path cannot be added, which is reported.
+bool Trust(const Paths& paths, Locations* locations) {
+  Locations added;
+  for (const char* path : paths) {
+    added.push_back(Absolute(path));
+    if (!added.back().empty()) continue;
+    PrintError(path, "the working directory is unknown");
+    return false;
+  }
+  AddLocations(added, locations);
+  return true;
+}
+
+bool Untrust(const Paths& paths, Locations* locations) {
+  for (const char* path : paths) {
+    // An entry may be any text that somebody has typed.
+    if (std::erase(*locations, path) > 0) continue;
     std::erase(*locations, Absolute(path));
   }
+  return true;
+}
+
+ExitStatus Run(const CommandLine& line,
+               bool (*edit)(const Paths& paths, Locations* locations)) {
+  if (!AreLocations(line.words)) return kUsageError;
+  const LinuxFileManager files;
+  const StoreView store(files);
+  if (!MayChange(store)) return kFailure;
+  Locations locations = store.TrustedLocations();
+  if (!edit(line.words, &locations)) return kFailure;
+  Changes changes;
+  changes.Add(ChangeOfLocations(locations, store));
+  return changes.Finish(line);
 }
 
 }  // namespace
 
-ExitStatus RunTrust(const CommandLine& line) {
-  if (!AreLocations(line.words)) return kUsageError;
-  const LinuxFileManager files;
-  const StoreView store(files);
-  if (!MayChange(store)) return kFailure;
-  std::vector<std::string> locations = NamesIn(store.TrustedLocations());
-  std::vector<std::string> added;
-  for (const char* word : line.words) {
-    added.push_back(Absolute(word));
-    if (added.back().empty()) {
-      PrintError(word, "the working directory is unknown");
-      return kFailure;
-    }
-  }
-  AddLocations(added, &locations);
-  Changes changes;
-  changes.Add(ChangeOfLocations(locations, store));
-  return changes.Finish(line);
-}
-
-ExitStatus RunUntrust(const CommandLine& line) {
-  if (!AreLocations(line.words)) return kUsageError;
-  const LinuxFileManager files;
-  const StoreView store(files);
-  if (!MayChange(store)) return kFailure;
-  std::vector<std::string> locations = NamesIn(store.TrustedLocations());
-  for (const char* path : line.words) Remove(path, &locations);
-  Changes changes;
-  changes.Add(ChangeOfLocations(locations, store));
-  return changes.Finish(line);
-}
+ExitStatus RunTrust(const CommandLine& line) { return Run(line, Trust); }
+ExitStatus RunUntrust(const CommandLine& line) { return Run(line, Untrust); }

@@ -39,14 +39,6 @@ void AddLines(const Names& names, const Names& others, const char* what,
 
 }  // namespace
 
-Names NamesIn(const SDIVector* list) {
-  Names names;
-  for (unsigned int i = 0; list && i < list->count; ++i) {
-    names.emplace_back(list->At(i)->name.c_str());
-  }
-  return names;
-}
-
 void AddLocations(const Names& paths, Names* locations) {
   std::unordered_set<std::string> known(locations->begin(), locations->end());
   for (const std::string& path : paths) {
@@ -56,7 +48,7 @@ void AddLocations(const Names& paths, Names* locations) {
 
 Change ChangeOfLocations(const Names& locations, const StoreView& store) {
   Change change = {kSubject, {}, {}};
-  const Names former = NamesIn(store.TrustedLocations());
+  const Names former = store.TrustedLocations();
   if (locations == former) return change;
   AddLines(locations, former, "trusted", &change.lines);
   AddLines(former, locations, "no longer trusted", &change.lines);

@@ -6,9 +6,6 @@
 
 #include "cli/changes.h"
 
-// The names of the elements; none of null.
-[[nodiscard]] std::vector<std::string> NamesIn(const SASM::SDIVector* list);
-
 // Appends the paths that are not there, each once.
 void AddLocations(const std::vector<std::string>& paths,
                   std::vector<std::string>* locations);

@@ -1,5 +1,8 @@
 #include "store/stored_sites.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <string_view>
 
@@ -28,20 +31,20 @@ class SiteSearch : private DirectoryWalk {
   }
 
  private:
-  bool VisitEntry(int, const char* name, unsigned char type,
+  bool VisitEntry(int directory, const char* name, unsigned char,
                   FileIdentity*) override {
     const std::string path = PathOf(name);
-    if (!path.starts_with(kSitesBegin)) return false;
-    if (std::string_view(name) == StoreLayout::kSettingsFileName) {
-      AddSite(path.substr(0, path.rfind('/')));
+    struct stat info;
+    if (!path.starts_with(kSitesBegin) ||
+        fstatat(directory, name, &info, AT_SYMLINK_NOFOLLOW) != 0 ||
+        !S_ISDIR(info.st_mode)) {
+      return false;
     }
-    return type == DT_DIR || type == DT_UNKNOWN;
-  }
-
-  void AddSite(const std::string& directory) {
-    if (!directory.starts_with(kSitesBegin)) return;  // "#settings.sol"
-    const SimpleString site = directory.c_str() + kSitesBegin.size();
+    const SimpleString site = path.c_str() + kSitesBegin.size();
     if (IsSiteName(site)) sites_.emplace_back(site.c_str());
+    // Only the directory itself and its parent: few sites have others below.
+    constexpr nlink_t kLinksWithoutSubdirectories = 2;
+    return info.st_nlink != kLinksWithoutSubdirectories;
   }
 
   std::vector<std::string> sites_;
@@ -49,7 +52,7 @@ class SiteSearch : private DirectoryWalk {
 
 }  // namespace
 
-std::vector<std::string> SitesWithSettingsFile(const StoreLayout& layout) {
+std::vector<std::string> SitesWithDirectory(const StoreLayout& layout) {
   if (!layout.IsOnDisk()) return {};
   return SiteSearch().Run(layout);
 }

@@ -1,4 +1,4 @@
-// The sites that have a settings file, whether or not they are listed.
+// The sites that have a directory for settings, whether or not they are listed.
 #pragma once
 
 #include <string>
@@ -8,9 +8,10 @@
 
 namespace SASM {
 
-// Ascending by bytes. A directory that is reached over a link, below the base
-// directory, is left out, as is a name that can be no site's.
-[[nodiscard]] std::vector<std::string> SitesWithSettingsFile(
+// Ascending by bytes. Whether there is a settings file, HasSettingsFile tells.
+// A directory that is reached over a link, below the base directory, is left
+// out, as is a name that can be no site's.
+[[nodiscard]] std::vector<std::string> SitesWithDirectory(
     const StoreLayout& layout);
 
 }  // namespace SASM
