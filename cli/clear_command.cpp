@@ -1,10 +1,13 @@
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <climits>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
 #include "cli/commands.h"
+#include "cli/error_messages.h"
 #include "cli/old_files.h"
 #include "cli/site_removal.h"
 #include "platform/drm_license_manager.h"
@@ -45,7 +48,7 @@ class ClearCommand {
   // False when the option is wrong, which is reported.
   bool ParseOptions();
   [[nodiscard]] const StoreView& Store() const { return store_; }
-  ExitStatus Finish() { return changes_.Finish(line_); }
+  ExitStatus Finish() { return Worse(changes_.Finish(line_), status_); }
 
  private:
   void AddDirectory(const SimpleString& path, const char* line,
@@ -53,7 +56,8 @@ class ClearCommand {
   void ClearStorageExceptKept();
   void ClearOldStorage();
   void ClearAllSettings();
-  [[nodiscard]] std::vector<std::string> SitesWithData() const;
+  // Those that are not kept. Reports a directory that cannot be read.
+  [[nodiscard]] std::vector<std::string> SitesWithData();
   [[nodiscard]] bool HasOldFile(const SimpleString& directory) const;
   [[nodiscard]] bool IsKept(const std::string& site) const;
 
@@ -63,6 +67,7 @@ class ClearCommand {
   const std::vector<const char*> kept_;
   unsigned long age_seconds_ = 0;
   Changes changes_;
+  ExitStatus status_ = kSuccess;
 };
 
 struct Target {
@@ -76,22 +81,28 @@ constexpr Target kTargets[] = {
     {"licences", &ClearCommand::ClearLicences},
 };
 
-std::vector<std::string> Listing(const SASM::FileManager& files,
-                                 const SimpleString& directory) {
+// False, with an error number, when the directory cannot be read.
+bool ListDirectory(const SimpleString& directory,
+                   std::vector<std::string>* names) {
   const std::unique_ptr<SASM::StringVector> list(
-      files.CreateNewListOfDirectoryContents(directory));
-  std::vector<std::string> names;
+      LinuxFileManager().CreateNewListOfDirectoryContents(directory));
   for (unsigned int i = 0; i < list->count; ++i) {
-    names.emplace_back(list->TextAt(i));
+    names->emplace_back(list->TextAt(i));
   }
-  return names;
+  return errno == 0 || errno == ENOENT;
+}
+
+bool IsEmpty(const SimpleString& directory) {
+  std::vector<std::string> names;
+  return ListDirectory(directory, &names) && names.empty();
 }
 
 bool HoldsNoSites(const SimpleString& settings_directory) {
-  const auto names = Listing(LinuxFileManager(), settings_directory);
-  return std::ranges::all_of(names, [](const std::string& name) {
-    return name == SASM::StoreLayout::kSettingsFileName;
-  });
+  std::vector<std::string> names;
+  return ListDirectory(settings_directory, &names) &&
+         std::ranges::all_of(names, [](const std::string& name) {
+           return name == SASM::StoreLayout::kSettingsFileName;
+         });
 }
 
 bool ClearCommand::ParseOptions() {
@@ -124,11 +135,10 @@ bool ClearCommand::IsKept(const std::string& site) const {
 
 void ClearCommand::AddDirectory(const SimpleString& path, const char* line,
                                 bool (*remove)(SettingsManager&)) {
-  if (files_.SizeOfFileAtPath(path) == 0) return;
+  if (!IsThere(path)) return;
   // A directory that cannot be opened is left, without a failure.
   changes_.Add({path.c_str(), {line}, [path, remove](SettingsManager& manager) {
-                  return remove(manager) &&
-                         LinuxFileManager().SizeOfFileAtPath(path) == 0;
+                  return remove(manager) && !IsThere(path);
                 }});
 }
 
@@ -136,20 +146,24 @@ void ClearCommand::ClearStorage() {
   if (line_.Has(kOlderThan)) return ClearOldStorage();
   if (!kept_.empty()) return ClearStorageExceptKept();
   const SimpleString root = store_.Layout().LocalStorageRoot();
-  if (Listing(files_, root).empty()) return;
+  if (IsEmpty(root)) return;
   changes_.Add({kAllSitesSubject,
                 {"all sites: stored data deleted"},
                 [root](SettingsManager& manager) {
                   return manager.RemoveAllSettingsAndOrLocalStorage(
                              /*remove_settings=*/false,
                              /*remove_storage=*/true) &&
-                         Listing(LinuxFileManager(), root).empty();
+                         IsEmpty(root);
                 }});
 }
 
-std::vector<std::string> ClearCommand::SitesWithData() const {
-  std::vector<std::string> sites =
-      Listing(files_, store_.Layout().LocalStorageDirectory());
+std::vector<std::string> ClearCommand::SitesWithData() {
+  const SimpleString directory = store_.Layout().LocalStorageDirectory();
+  std::vector<std::string> sites;
+  if (!ListDirectory(directory, &sites)) {
+    PrintError(directory.c_str(), std::strerror(errno));
+    status_ = kFailure;
+  }
   std::erase_if(sites, [this](const std::string& site) {
     return !SASM::IsSiteName(site.c_str()) || IsKept(site);
   });
@@ -158,7 +172,7 @@ std::vector<std::string> ClearCommand::SitesWithData() const {
 
 void ClearCommand::ClearStorageExceptKept() {
   for (const std::string& site : SitesWithData()) {
-    changes_.Add(DeletionOfData(site.c_str(), store_, files_));
+    changes_.Add(DeletionOfData(site.c_str(), store_));
   }
 }
 
@@ -206,7 +220,11 @@ void ClearCommand::ClearAllSettings() {
                   return manager.RemoveAllSettingsAndOrLocalStorage(
                              /*remove_settings=*/true,
                              /*remove_storage=*/false) &&
-                         HoldsNoSites(directory);
+                         HoldsNoSites(directory) &&
+                         // The global settings have gone as well and are
+                         // written again; whether they are, this tells.
+                         manager.SynchronizeSettingsForDomain(
+                             SettingsManager::MasterDomain());
                 }});
 }
 
@@ -214,7 +232,7 @@ void ClearCommand::ClearSettings() {
   if (kept_.empty()) return ClearAllSettings();
   for (const std::string& site : store_.KnownSites()) {
     if (IsKept(site) || !SASM::IsSiteName(site.c_str())) continue;
-    changes_.Add(RemovalOfSite(site.c_str(), Data::kKept, store_, files_));
+    changes_.Add(RemovalOfSite(site.c_str(), Data::kKept, store_));
   }
 }
 

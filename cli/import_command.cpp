@@ -8,7 +8,6 @@
 #include "cli/site_removal.h"
 #include "cli/trusted_locations.h"
 #include "platform/linux_file_manager.h"
-#include "platform/tree_size.h"
 #include "store/setting_keys.h"
 #include "strings/printable_text.h"
 
@@ -71,7 +70,6 @@ class ImportCommand {
   }
 
   void SetSites(const std::vector<Document::Site>& sites) {
-    const SharedMeasurement measurement;  // not of what is left afterwards
     if (replaces_) RemoveOtherSites(sites);
     for (const Document::Site& site : sites) SetSite(site);
   }
@@ -92,7 +90,7 @@ class ImportCommand {
     ListSite(site, is_new, &change);
     changes_.Add(std::move(change));
     if (deletes_data_ && IsBlocked(site)) {
-      changes_.Add(DeletionOfData(site.name, store_, files_));
+      changes_.Add(DeletionOfData(site.name, store_));
     }
   }
 
@@ -144,7 +142,7 @@ class ImportCommand {
     const Data data = deletes_data_ ? Data::kDeleted : Data::kKept;
     for (const std::string& site : store_.KnownSites()) {
       if (named.contains(site)) continue;
-      Change change = RemovalOfSite(site.c_str(), data, store_, files_);
+      Change change = RemovalOfSite(site.c_str(), data, store_);
       if (above.contains(site)) {
         change.apply = [name = SimpleString(site.c_str())](
                            SettingsManager& manager) {

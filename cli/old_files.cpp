@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <ctime>
 
 #include "platform/directory_walk.h"
@@ -43,5 +44,8 @@ class OldFileSearch : private DirectoryWalk {
 bool HasFileOlderThan(const char* trusted, const char* way,
                       unsigned long age_seconds) {
   const FileDescriptor directory = OpenBelow(trusted, way);
-  return directory.IsOpen() && OldFileSearch(age_seconds).Run(directory.Get());
+  if (directory.IsOpen()) {
+    return OldFileSearch(age_seconds).Run(directory.Get());
+  }
+  return errno != ENOENT && errno != ENOTDIR;
 }

@@ -10,7 +10,7 @@ ExitStatus RunRemove(const CommandLine& line) {
   const Data data = line.Has(kKeepData) ? Data::kKept : Data::kDeleted;
   Changes changes;
   for (const char* site : WithoutRepetitions(line.words)) {
-    changes.Add(RemovalOfSite(site, data, store, files));
+    changes.Add(RemovalOfSite(site, data, store));
   }
   return changes.Finish(line);
 }

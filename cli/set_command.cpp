@@ -175,7 +175,7 @@ class SetCommand {
     for (const PermissionChange& change : permissions) {
       if (!change.permission->limit_key) continue;
       if (change.state != kPermissionStateAlwaysDeny) continue;
-      changes_.Add(DeletionOfData(site, store_, files_));
+      changes_.Add(DeletionOfData(site, store_));
     }
   }
 

@@ -3,19 +3,15 @@
 
 #include "cli/changes.h"
 
-// True when the site stores data.
-[[nodiscard]] bool HasData(const SASM::SimpleString& site,
-                           const StoreView& store,
-                           const SASM::FileManager& files);
+// False only when certainly nothing is there, not even a link.
+[[nodiscard]] bool IsThere(const SASM::SimpleString& path);
 
 // No change when the site stores no data.
 [[nodiscard]] Change DeletionOfData(const SASM::SimpleString& site,
-                                    const StoreView& store,
-                                    const SASM::FileManager& files);
+                                    const StoreView& store);
 
 enum class Data { kDeleted, kKept };
 // The site's settings and its places in the list, and its data. No change when
 // there is nothing of these.
 [[nodiscard]] Change RemovalOfSite(const SASM::SimpleString& site, Data data,
-                                   const StoreView& store,
-                                   const SASM::FileManager& files);
+                                   const StoreView& store);

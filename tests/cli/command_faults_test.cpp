@@ -1,0 +1,158 @@
+// The commands that change settings, while each of their system calls fails.
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <set>
+
+#include "cli/command_line.h"
+#include "cli/json.h"
+#include "tests/support/call_hooks.h"
+#include "tests/support/store_test.h"
+
+namespace {
+
+using faults::Effect;
+using faults::Fault;
+using Snapshot = TemporaryHome::Snapshot;
+using Words = std::vector<std::string>;
+
+constexpr Fault kFaults[] = {
+    {"create: read-only", faults::kCreate, Effect::kFail, EROFS},
+    {"read: bad disk", faults::kRead, Effect::kFail, EIO},
+    {"write: bad disk", faults::kWrite, Effect::kFail, EIO},
+    {"disk full", faults::kWrite, Effect::kDiskFull, ENOSPC},
+    {"mkdir: read-only", faults::kMkdir, Effect::kFail, EROFS},
+    {"unlink: not permitted", faults::kUnlink, Effect::kFail, EPERM},
+    {"rmdir: busy", faults::kRmdir, Effect::kFail, EBUSY},
+};
+constexpr char kDocument[] =
+    R"({"format": "corvane-player-settings 1", "global": [],
+        "trusted_locations": ["/t"], "sites": [
+          {"site": "a.example", "settings": [{"key": "klimit", "value": -1}]},
+          {"site": "c.example", "settings": [{"key": "x", "value": 1}]}]})";
+const Words kCommands[] = {
+    {"set", "--all-sites", "camera=block"},
+    {"set", "--add", "storage=block", "a.example", "c.example"},
+    {"remove", "a.example", "b.example"},
+    {"trust", "/t"},
+    {"untrust", "/old"},
+    {"import", "--replace", "--delete-data", "document"},
+    {"doctor", "--relist"},
+    {"clear", "storage", "settings", "cache", "licences"},
+    {"clear", "--keep=a.example", "storage", "settings"},
+};
+// Added to the exit status of a command that met the fault.
+constexpr int kMet = 64;
+
+// "" when there is no such file.
+std::string Content(const Snapshot& snapshot, const std::string& path) {
+  const auto found = snapshot.find(path);
+  return found == snapshot.end() ? "" : found->second;
+}
+
+class CommandFaults : public StoreTest {
+ protected:
+  CommandFaults() {
+    PrepareJson();
+    Begin({"a.example", "b.example"});
+    manager_.reset();
+    home_.Write(TemporaryHome::SettingsFileOf("unlisted"),
+                SiteFile("a.example"));
+    home_.Write("document", kDocument);
+    home_.Write(std::string(TemporaryHome::kAssetCache) + "/asset", "asset");
+    home_.Write(std::string(TemporaryHome::kLicences) + "/licence", "licence");
+    EXPECT_EQ(Run({"trust", "/old"}, {}, 0), kSuccess);
+    files_before_ = home_.Take();
+    before_ = Take();
+  }
+
+  // The settings files in the home, as text that does not depend on the order
+  // of entries; "" for what is damaged. Other files as they are.
+  Snapshot Take() const;
+  // The exit status.
+  int Run(const Words& words, const Fault& fault, int n) const;
+  // Whether the n-th call met the fault.
+  bool Try(const Words& words, const Fault& fault, int n) const;
+
+  Snapshot files_before_;
+  Snapshot before_;
+  Snapshot complete_;
+};
+
+Snapshot CommandFaults::Take() const {
+  Snapshot snapshot = home_.Take();
+  for (auto& [path, content] : snapshot) {
+    if (!path.ends_with("settings.sol")) continue;
+    const image::Dictionary settings = image::Read(content);
+    content.clear();
+    std::set<std::string> entries;
+    if (!settings) continue;
+    for (const auto& entry : *settings) {
+      entries.insert(image::Describe(entry.value));
+    }
+    content = testing::PrintToString(entries);
+  }
+  return snapshot;
+}
+
+int CommandFaults::Run(const Words& words, const Fault& fault, int n) const {
+  const pid_t child = fork();
+  if (child == 0) {
+    Words texts = words;
+    texts.insert(texts.begin(), kProgramName);
+    std::vector<char*> arguments;
+    for (std::string& text : texts) arguments.push_back(text.data());
+    stdout = stderr = std::fopen("/dev/null", "w");
+    CommandLine line;
+    if (chdir(home_.Path().c_str()) != 0 ||
+        !ParseCommandLine(arguments, &line)) {
+      _exit(kUsageError);
+    }
+    faults::Arm(fault, n);
+    const ExitStatus status = line.command->run(line);
+    _exit(faults::Disarm() ? status + kMet : status);
+  }
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status)) << "signal " << WTERMSIG(status);
+  return WEXITSTATUS(status);
+}
+
+bool CommandFaults::Try(const Words& words, const Fault& fault, int n) const {
+  home_.Restore(files_before_);
+  const int status = Run(words, fault, n);
+  const Snapshot after = Take();
+  for (const auto& [path, old] : before_) {
+    const std::string now = Content(after, path);
+    // Several changes of the global settings are written one by one.
+    const bool is_between = path == TemporaryHome::MasterFile() && !now.empty();
+    EXPECT_TRUE(is_between || now == old || now == Content(complete_, path))
+        << path << " " << now;
+  }
+  if (status % kMet == kSuccess) {
+    EXPECT_TRUE(after == complete_);
+  } else {
+    EXPECT_EQ(status, kMet + kFailure);
+  }
+  return status >= kMet;
+}
+
+TEST_F(CommandFaults, LeaveOldOrNewSettingsAndSaySo) {
+  for (const Words& words : kCommands) {
+    home_.Restore(files_before_);
+    EXPECT_EQ(Run(words, {}, 0), kSuccess);
+    complete_ = Take();
+    EXPECT_NE(complete_, before_) << testing::PrintToString(words);
+    for (const Fault& fault : kFaults) {
+      for (int n = 0; !HasFailure(); ++n) {
+        SCOPED_TRACE(testing::PrintToString(words) + fault.name + " " +
+                     std::to_string(n));
+        if (!Try(words, fault, n)) break;
+      }
+    }
+  }
+}
+
+}  // namespace
