@@ -84,6 +84,8 @@ class ImportCommand {
     }
     const bool is_new = !on_disk.IsIntact();
     SettingsEdit edit(site.name, is_new ? nullptr : on_disk.dictionary.get());
+    // What is damaged may still hold other keys.
+    if (is_new && replaces_) edit.ReplaceAll();
     Put(site.settings, &edit.After());
     Change change = edit.ToChange();
     if (change.lines.empty() && !is_new) change.apply = nullptr;

@@ -178,7 +178,10 @@ std::vector<std::string> SettingsEdit::Lines() const {
 }
 
 std::function<bool(SASM::SettingsManager&)> SettingsEdit::Application() const {
-  const auto make_changes = [changes = KeyChanges()](SettingsDictionary& all) {
+  const auto make_changes = [changes = KeyChanges(),
+                             replaces_all =
+                                 replaces_all_](SettingsDictionary& all) {
+    if (replaces_all) all.clear();
     for (const KeyChange& change : changes) {
       if (change.value) {
         all.insert(change.key, *change.value);

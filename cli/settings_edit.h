@@ -21,6 +21,9 @@ class SettingsEdit {
   // Both hold the same at first.
   [[nodiscard]] SASM::SettingsDictionary& Before() { return *before_; }
   [[nodiscard]] SASM::SettingsDictionary& After() { return *after_; }
+  // Lets Application first remove what the domain then holds. For a domain of
+  // which Before knows nothing.
+  void ReplaceAll() { replaces_all_ = true; }
   // Inserts into both.
   void InsertDefaults(const SASM::SettingsDictionary& master);
 
@@ -49,6 +52,7 @@ class SettingsEdit {
 
   SASM::SimpleString domain_;
   bool is_master_;
+  bool replaces_all_ = false;
   std::unique_ptr<SASM::SettingsDictionary> before_;
   std::unique_ptr<SASM::SettingsDictionary> after_;
 };
