@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+#include "settings/simple_string.h"
+
 namespace {
 
 FileDescriptor OpenWithoutLinks(int directory, const char* path,
@@ -51,8 +53,8 @@ bool IsNoAnswer(int error) {
 FileDescriptor OpenBelow(const char* trusted, const char* way) {
   // Common case: no link leads to `trusted` either.
   if (!std::strstr(way, "..")) {
-    const std::string path = std::string(trusted) + "/" + way;
-    FileDescriptor reached = OpenWithoutLinks(AT_FDCWD, path.c_str());
+    FileDescriptor reached = OpenWithoutLinks(
+        AT_FDCWD, SASM::SimpleString::Joined({trusted, "/", way}).c_str());
     if (reached.IsOpen() || (errno != ELOOP && !IsNoAnswer(errno))) {
       return reached;
     }
