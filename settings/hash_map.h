@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <map>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -54,14 +53,14 @@ class HashMap {
   static constexpr unsigned int kBucketCount = 16;
   static constexpr unsigned int kMostWithoutIndex = 256;
 
-  HashMap() : sentinel_(new Node{K(), V(), kBucketCount, 0}) { Initialize(); }
+  HashMap() : sentinel_{K(), V(), kBucketCount, 0} { Initialize(); }
   ~HashMap() { DeleteAllEntries(); }
   HashMap(const HashMap&) = delete;
   HashMap& operator=(const HashMap&) = delete;
 
   iterator begin() const { return iterator(this, begin_); }
   // Its key and value are empty.
-  iterator end() const { return iterator(this, sentinel_.get()); }
+  iterator end() const { return iterator(this, &sentinel_); }
 
   // The key's node, or end().
   iterator find(const K& key) const {
@@ -69,15 +68,16 @@ class HashMap {
   }
 
   // Stores the value under the key, replacing the value of a key that is
-  // present. Returns the key's node.
-  iterator insert(K key, V value) {
+  // present; only a new key is copied or moved. Returns the key's node.
+  template <typename Key>
+  iterator insert(Key&& key, V value) {
     const unsigned int hash = Hash(key);
     Node* node = FindNode(key, hash);
-    if (node != sentinel_.get()) {
+    if (node != &sentinel_) {
       node->value = std::move(value);
     } else {
-      node =
-          new Node{std::move(key), std::move(value), hash % kBucketCount, hash};
+      node = new Node{K(std::forward<Key>(key)), std::move(value),
+                      hash % kBucketCount, hash};
       Link(node);
       AddToIndex(node);
     }
@@ -113,17 +113,17 @@ class HashMap {
   };
 
   void Initialize() {
-    begin_ = sentinel_.get();
-    sentinel_->prev = nullptr;
+    begin_ = &sentinel_;
+    sentinel_.prev = nullptr;
     for (Node*& first : buckets_) first = nullptr;
-    buckets_[kBucketCount] = sentinel_.get();
+    buckets_[kBucketCount] = &sentinel_;
     count_ = 0;
   }
 
   // Leaves stale pointers: only Initialize or the end of the map may follow.
   void DeleteAllEntries() {
     index_.clear();
-    while (begin_ != sentinel_.get()) {
+    while (begin_ != &sentinel_) {
       delete std::exchange(begin_, begin_->next);
     }
   }
@@ -138,7 +138,7 @@ class HashMap {
          node = node->next) {
       if (node->hash == hash && node->key == key) return node;
     }
-    return sentinel_.get();
+    return &sentinel_;
   }
 
   void Link(Node* node) {
@@ -170,7 +170,7 @@ class HashMap {
 
   Node* FindInIndex(const K& key) const {
     const auto found = index_.find(IndexKey(key));
-    return found == index_.end() ? sentinel_.get() : found->second;
+    return found == index_.end() ? &sentinel_ : found->second;
   }
 
   // Nothing as long as the map is small. The first time adds all nodes.
@@ -185,7 +185,7 @@ class HashMap {
   // All nodes by their keys, or empty.
   std::map<IndexKey, Node*> index_;
   unsigned int count_ = 0;
-  const std::unique_ptr<Node> sentinel_;
+  mutable Node sentinel_;  // a constant map, too, gives positions to change
   Node* begin_;
   Node* buckets_[kBucketCount + 1];
 };
