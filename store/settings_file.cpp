@@ -172,12 +172,13 @@ bool WaitForWriter() {
 
 bool ReplaceFile(int directory, const char* name,
                  std::span<const unsigned char> bytes) {
-  FileImage old;
   FileDescriptor old_file =
       OpenForReading(directory, name, kReadFlags | O_NOFOLLOW);
+  if (!old_file.IsOpen() && LeavesContentUnknown(errno)) return false;
+  if (CreateFile(directory, name, bytes)) return true;
+  FileImage old;
   const bool has_old = ReadOpenFile(old_file, &old);
-  if (!has_old && LeavesContentUnknown(errno)) return false;
-  old_file.Close();  // its descriptor may be the last
+  old_file.Close();  // its room and its descriptor may be the last
   if (CreateFile(directory, name, bytes)) return true;
   const int error = errno;
   if (has_old) {

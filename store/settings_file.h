@@ -54,11 +54,12 @@ inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 inline constexpr int kMoreLooks = 3;
 
 // Replaces the file `name` in the open directory `directory`: removes it, then
-// creates a new one with these bytes, never through a link. Everything the new
-// file needs is ready before the old one is removed. False when the bytes
-// could not be written whole; the old ones are then written back. False with
-// nothing changed when the old file could not be read (see
-// LeavesContentUnknown) or removed; errno then says why.
+// creates a new one with these bytes, never through a link. Keeps the old file
+// open meanwhile, and gives it up when the new one needs its room on the disk
+// or its descriptor. False when the bytes could not be written whole; the old
+// ones are then written back. False with nothing changed when the old file
+// could not be opened (see LeavesContentUnknown) or removed; errno then says
+// why.
 [[nodiscard]] bool ReplaceFile(int directory, const char* name,
                                std::span<const unsigned char> bytes);
 

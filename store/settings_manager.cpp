@@ -153,7 +153,11 @@ SettingsDictionary* SettingsManager::GetNewSettingsDataFromFile(
 
 bool SettingsManager::SynchronizeSettingsForDomain(const SimpleString& domain) {
   if (!mLayout.IsOnDisk()) return true;
-  if (!DictionaryToChange(domain)) return false;
+  return DictionaryToChange(domain) && WriteFileOf(domain);
+}
+
+bool SettingsManager::WriteFileOf(const SimpleString& domain) {
+  if (!mLayout.IsOnDisk()) return true;
   unsigned char* data = nullptr;
   unsigned long size = 0;
   SMImplementation::SettingsWriter(this, domain)
@@ -206,7 +210,7 @@ bool SettingsManager::SetSetting(SettingDataItem* item, const SimpleString& key,
   SettingsDictionary* dictionary = DictionaryToChange(domain);
   if (!dictionary) return false;
   dictionary->insert(key, *item);
-  return SynchronizeSettingsForDomain(domain);
+  return WriteFileOf(domain);
 }
 
 bool SettingsManager::ChangeSettings(
@@ -215,7 +219,7 @@ bool SettingsManager::ChangeSettings(
   SettingsDictionary* dictionary = DictionaryToChange(domain);
   if (!dictionary) return false;
   change(*dictionary);
-  return SynchronizeSettingsForDomain(domain);
+  return WriteFileOf(domain);
 }
 
 bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
@@ -224,7 +228,7 @@ bool SettingsManager::RemoveSettingWithKey(const SimpleString& key,
   if (!dictionary) return false;
   const auto found = dictionary->find(key);
   if (found != dictionary->end()) dictionary->erase(found);
-  return SynchronizeSettingsForDomain(domain);
+  return WriteFileOf(domain);
 }
 
 StringVector* SettingsManager::GetNewSettingKeys(const SimpleString& domain) {
@@ -257,7 +261,7 @@ bool SettingsManager::LoadMasterSettings() {
 
 bool SettingsManager::WriteOrUpdateDefaultMasterSettings() {
   return InsertMissing(DefaultMasterSettings(), MasterDomain()) &&
-         SynchronizeSettingsForDomain(MasterDomain());
+         WriteFileOf(MasterDomain());
 }
 
 bool SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
@@ -271,8 +275,7 @@ bool SettingsManager::InsertMissing(std::span<const DefaultSetting> rows,
 
 bool SettingsManager::WriteOrUpdateSettingsForDomain(
     const SimpleString& domain) {
-  return InsertMissing(DefaultDomainSettings(), domain) &&
-         SynchronizeSettingsForDomain(domain);
+  return InsertMissing(DefaultDomainSettings(), domain) && WriteFileOf(domain);
 }
 
 }  // namespace SASM

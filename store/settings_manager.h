@@ -186,6 +186,8 @@ class SettingsManager {
   [[nodiscard]] bool IsUnread(const SimpleString& domain) const;
   // Makes the defaults stand in for a file that could not be read.
   SettingsDictionary* StandIn(const SimpleString& domain);
+  // SynchronizeSettingsForDomain for a domain whose dictionary is loaded.
+  bool WriteFileOf(const SimpleString& domain);
   // The open directory of the domain's settings file, made where it is
   // missing.
   [[nodiscard]] FileDescriptor OpenDirectoryOf(const SimpleString& domain);
