@@ -1,5 +1,6 @@
 // Every operation of the store, while each of its system calls and allocations
 // fails in turn.
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -7,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <regex>
 #include <set>
 #include <span>
 
@@ -20,17 +22,21 @@
 
 namespace {
 
+namespace fs = std::filesystem;
+
 using faults::Effect;
 using faults::Fault;
 using testing::AnyOf;
-using Home = TemporaryHome;
-using Snapshot = Home::Snapshot;
+using testing::IsEmpty;
+using Snapshot = TemporaryHome::Snapshot;
 
+constexpr Fault kNoOpenat2 = {"openat2: missing", faults::kOpenat2,
+                              Effect::kFailOnwards, ENOSYS};
 constexpr Fault kFaults[] = {
     {"open: too many files", faults::kOpen, Effect::kFail, EMFILE},
     {"every open from here on", faults::kOpen, Effect::kFailOnwards, EMFILE},
     {"open: interrupted", faults::kOpen, Effect::kFail, EINTR},
-    {"openat2: missing", faults::kOpenat2, Effect::kFailOnwards, ENOSYS},
+    kNoOpenat2,
     {"read: bad disk", faults::kRead, Effect::kFail, EIO},
     {"read: interrupted", faults::kRead, Effect::kFail, EINTR},
     {"write: bad disk", faults::kWrite, Effect::kFail, EIO},
@@ -65,22 +71,28 @@ constexpr char kB[] = "b.example";
 constexpr char kNew[] = "c.example";
 constexpr char kMasterDomain[] = "___MASTER_DOMAIN";
 
-struct Operation {
-  enum On { kNothing, kFiles, kPanel };
+// Which home an operation is tried on; kPanel: by a panel that has started.
+enum Home { kNothing, kFiles, kPanel };
 
+// What is known of an operation that meets a fault.
+enum Rule : unsigned int {
+  // Its result says whether the disk was changed as intended.
+  kReports = 1 << 0,
+  // A site that is listed and stores data has its settings.
+  kListsWhatIsThere = 1 << 1,
+  // The list and the limit of all sites in memory are the new ones.
+  kForgetsAtOnce = 1 << 2,
+  // It removes settings itself.
+  kRemovesSettings = 1 << 3,
+};
+
+struct Operation {
   const char* name;
-  On on;  // kPanel: one that was started before
+  Home home;
   bool (*run)(StoreTest& panel);
-  // Beginnings of the paths that may change.
-  std::vector<std::string> may_change;
-  // True when the result says whether the disk was changed as intended.
-  bool reports = true;
-  // How many of the values in Memory() are the new ones whatever fails.
-  unsigned int certain = 0;
-  // True when a site that is listed and stores data must have its settings.
-  bool lists_what_is_there = false;
-  // False when the operation itself removes settings.
-  bool keeps_settings = true;
+  // Beginnings of the paths that may change: a regular expression.
+  std::string may_change;
+  unsigned int rules = 0;
 };
 
 bool Start(StoreTest& panel) {
@@ -112,61 +124,38 @@ bool DeleteAll(StoreTest& panel) {
   return SASM::DRMLicenseManager(&panel.files_).Reset() && done;
 }
 
-const std::string kMaster = Home::MasterFile();
-const std::string kSettings = Home::kSettings;
-const std::string kStorage = Home::StorageOf("");
+bool DeleteByAge(StoreTest& panel) {
+  const bool done =
+      panel.manager_->RemoveAllSettingsAndOrLocalStorageForTimeRange(
+          true, true, -1UL, 1UL << 40);
+  return panel.manager_->GetDomains() && done;  // has the defaults loaded
+}
+
+const std::string kMaster = TemporaryHome::MasterFile();
+const std::string kSettings = TemporaryHome::kSettings;
+const std::string kStorage = TemporaryHome::StorageOf("");
+const std::string kOr = "|";
 const Operation kOperations[] = {
-    {.name = "first start",
-     .on = Operation::kNothing,
-     .run = Start,
-     .may_change = {".orbelline/Corvane_Player/tessary.example/"},
-     .reports = false},
-    {.name = "start",
-     .on = Operation::kFiles,
-     .run = Start,
-     .may_change = {kMaster},
-     .reports = false},
-    {.name = "change a setting",
-     .on = Operation::kPanel,
-     .run = ChangeSetting,
-     .may_change = {Home::SettingsFileOf(kA)}},
-    {.name = "add a site",
-     .on = Operation::kPanel,
-     .run = AddSite,
-     .may_change = {kMaster, kSettings + "/#c.example/"},
-     .lists_what_is_there = true},
-    {.name = "remove a site",
-     .on = Operation::kPanel,
-     .run = RemoveSite,
-     .may_change = {kMaster, kSettings + "/#a.example/", kStorage + kA + "/"},
-     .lists_what_is_there = true},
-    {.name = "block storage for all sites",
-     .on = Operation::kPanel,
-     .run = BlockStorageEverywhere,
-     .may_change = {kMaster, Home::SettingsFileOf(kA), Home::SettingsFileOf(kB),
-                    kStorage + kA + "/", kStorage + kB + "/"},
-     .reports = false,
-     .certain = 2},
-    {.name = "delete all",
-     .on = Operation::kPanel,
-     .run = DeleteAll,
-     .may_change = {kSettings + "/", kStorage, Home::kAssetCache,
-                    Home::kLicences},
-     .reports = false,
-     .certain = 2,
-     .keeps_settings = false},
-};
-
-// Drops the store's messages while it lives; a sanitizer's still come.
-class Silence {
- public:
-  Silence() : former_(std::exchange(stderr, std::fopen("/dev/null", "w"))) {}
-  ~Silence() { std::fclose(std::exchange(stderr, former_)); }
-  Silence(const Silence&) = delete;
-  Silence& operator=(const Silence&) = delete;
-
- private:
-  std::FILE* former_;
+    {"first start", kNothing, Start,
+     ".orbelline/Corvane_Player/tessary.example/"},
+    {"start", kFiles, Start, kMaster},
+    {"change a setting", kPanel, ChangeSetting,
+     TemporaryHome::SettingsFileOf(kA), kReports},
+    {"add a site", kPanel, AddSite, kMaster + kOr + kSettings + "/#c.example/",
+     kReports | kListsWhatIsThere},
+    {"remove a site", kPanel, RemoveSite,
+     kMaster + kOr + kSettings + "/#a.example/" + kOr + kStorage + kA + "/",
+     kReports | kListsWhatIsThere},
+    {"block storage for all sites", kPanel, BlockStorageEverywhere,
+     kMaster + kOr + kSettings + "/#(" + kA + kOr + kB + ")/settings.sol" +
+         kOr + kStorage + "(" + kA + kOr + kB + ")/",
+     kForgetsAtOnce},
+    {"delete by age", kPanel, DeleteByAge, kSettings + "/|" + kStorage,
+     kRemovesSettings},
+    {"delete all", kPanel, DeleteAll,
+     kSettings + "/|" + kStorage + kOr + TemporaryHome::kAssetCache + kOr +
+         TemporaryHome::kLicences,
+     kForgetsAtOnce | kRemovesSettings},
 };
 
 // Runs `body` in a child, under the programs' own handler, with the n-th call
@@ -203,30 +192,26 @@ TEST(OutOfMemory, EndsAFirstStartWithOneLineAndUsesNoOtherHome) {
     });
     const std::string printed = testing::internal::GetCapturedStderr();
     EXPECT_EQ(status == EXIT_FAILURE, printed == "Out of memory.\n") << printed;
-    EXPECT_THAT(password_home.List(), testing::IsEmpty());
+    EXPECT_THAT(password_home.List(), IsEmpty());
   }
+}
+
+// The paths that changed but may not, with their old and new contents.
+std::vector<std::pair<std::string, std::string>> ChangedOutside(
+    const Operation& operation, const Snapshot& before, const Snapshot& after) {
+  std::vector<std::pair<std::string, std::string>> changed;
+  std::ranges::set_symmetric_difference(before, after,
+                                        std::back_inserter(changed));
+  const std::regex may_change("(" + operation.may_change + ").*");
+  std::erase_if(changed, [&](const auto& entry) {
+    return std::regex_match(entry.first, may_change);
+  });
+  return changed;
 }
 
 std::string Content(const Snapshot& snapshot, const std::string& path) {
   const auto found = snapshot.find(path);
   return found == snapshot.end() ? "nothing" : found->second;
-}
-
-// A path that changed but may not; empty when there is none.
-std::string ChangedOutside(const Operation& operation, const Snapshot& before,
-                           const Snapshot& after) {
-  Snapshot either = before;
-  either.insert(after.begin(), after.end());
-  for (const auto& entry : either) {
-    const std::string& path = entry.first;
-    const bool may_change = std::ranges::any_of(
-        operation.may_change,
-        [&](const auto& beginning) { return path.starts_with(beginning); });
-    if (!may_change && Content(before, path) != Content(after, path)) {
-      return path;
-    }
-  }
-  return {};
 }
 
 // The number of settings files that are neither as before nor as complete.
@@ -249,9 +234,9 @@ bool EndsProcess(const Fault& fault) {
 int MostTorn(const Operation& operation, const Fault& fault) {
   const bool is_allocation = fault.calls == faults::kAllocate;
   if (EndsProcess(fault)) {
-    return is_allocation && operation.keeps_settings ? 0 : 1;
+    return is_allocation && !(operation.rules & kRemovesSettings) ? 0 : 1;
   }
-  if (!operation.keeps_settings) return kMostCalls;
+  if (operation.rules & kRemovesSettings) return kMostCalls;
   // A process that can open nothing any more from the very call on that creates
   // the file cannot take the old one back. What the user may not read is
   // replaced.
@@ -261,25 +246,32 @@ int MostTorn(const Operation& operation, const Fault& fault) {
 // A home with every kind of file in it.
 class Faults : public StoreTest {
  protected:
-  // The disk, and what the panel holds, when nothing fails.
   struct State {
     Snapshot disk;
+    // The sites, the limit of all, and those of listed sites.
     std::vector<std::string> memory;
   };
 
   Faults();
-  ~Faults() override { SettingBase::mSettingsManager = nullptr; }
+  ~Faults() override {
+    SettingBase::mSettingsManager = nullptr;
+    std::fclose(std::exchange(stderr, errors_));
+  }
 
   // Restores the files and starts the panel as the operation needs them.
-  State Prepare(const Operation& operation);
-  // The sites, the limit of all, and those of listed sites.
-  std::vector<std::string> Memory();
+  void Prepare(const Operation& operation);
+  // The disk, and what the panel holds when there is one.
+  State Look();
   // Runs the operation; true when the n-th call met the fault.
   bool Try(const Operation& operation, const Fault& fault, int n,
            const State& complete);
   // What must be in memory after a failed system call.
   void CheckMemory(const Operation& operation, const State& before,
                    const State& complete, bool is_done, const Snapshot& after);
+  // Runs the operation; at its n-th call the directory is exchanged for a link,
+  // or for the time of one call, without openat2. False when it is not.
+  bool TryExchange(const Operation& operation, const std::string& place, int n,
+                   bool is_back);
   // Runs every operation with every fault at each of its calls.
   void TryAll(std::span<const Fault> faults);
   // All defaults and the list of sites are there.
@@ -288,7 +280,9 @@ class Faults : public StoreTest {
   // finds it.
   void ExpectUsable(const Snapshot& after);
 
- private:
+  // Where a sanitizer's messages go; the store's are dropped.
+  std::FILE* const errors_ =
+      std::exchange(stderr, std::fopen("/dev/null", "w"));
   // The files of other programs, without and with those of the panel.
   Snapshot around_;
   Snapshot whole_;
@@ -307,37 +301,36 @@ Faults::Faults() {
   SetNumber("defaultklimit", 10, kMasterDomain);
   for (const char* site : {kA, kB, kNew}) {
     if (site != kNew) manager_->AddDomainWithDefaultSettings(site);
-    home_.Write(Home::StorageOf(site) + "/one.sol", "one");
-    home_.Write(Home::StorageOf(site) + "/deep/er/two.sol", "two");
+    home_.Write(TemporaryHome::StorageOf(site) + "/one.sol", "one");
+    home_.Write(TemporaryHome::StorageOf(site) + "/deep/er/two.sol", "two");
   }
-  home_.Write(std::string(Home::kAssetCache) + "/d/asset", "asset");
-  home_.Write(std::string(Home::kLicences) + "/licence", "licence");
+  home_.Write(std::string(TemporaryHome::kAssetCache) + "/d/asset", "asset");
+  home_.Write(std::string(TemporaryHome::kLicences) + "/licence", "licence");
   whole_ = home_.Take();
 }
 
-Faults::State Faults::Prepare(const Operation& operation) {
+void Faults::Prepare(const Operation& operation) {
   manager_.reset();
-  home_.Restore(operation.on == Operation::kNothing ? around_ : whole_);
-  if (operation.on != Operation::kPanel) return {home_.Take(), {}};
-  ::Start(*this);
-  return {home_.Take(), Memory()};
+  home_.Restore(operation.home == kNothing ? around_ : whole_);
+  if (operation.home == kPanel) ::Start(*this);
 }
 
-std::vector<std::string> Faults::Memory() {
+Faults::State Faults::Look() {
+  State state = {home_.Take(), {}};
+  if (!manager_) return state;
   const std::vector<std::string> sites = Listed();
-  std::vector<std::string> memory = {testing::PrintToString(sites),
-                                     Held("defaultklimit")};
+  state.memory = {testing::PrintToString(sites), Held("defaultklimit")};
   for (const char* site : {kA, kB}) {
     const bool is_listed = std::ranges::count(sites, site) > 0;
-    memory.push_back(is_listed ? Held("klimit", site) : "not listed");
+    state.memory.push_back(is_listed ? Held("klimit", site) : "not listed");
   }
-  return memory;
+  return state;
 }
 
 bool Faults::Try(const Operation& operation, const Fault& fault, int n,
                  const State& complete) {
-  const Silence silence;
-  const State before = Prepare(operation);
+  Prepare(operation);
+  const State before = Look();
   int status = 0;
   bool result = false;
   if (EndsProcess(fault)) {
@@ -354,10 +347,10 @@ bool Faults::Try(const Operation& operation, const Fault& fault, int n,
     EXPECT_EQ(CountDescriptors(), descriptors);
   }
   const Snapshot after = home_.Take();
-  EXPECT_EQ(ChangedOutside(operation, before.disk, after), "");
+  EXPECT_THAT(ChangedOutside(operation, before.disk, after), IsEmpty());
   EXPECT_LE(CountTorn(before.disk, after, complete.disk),
             MostTorn(operation, fault));
-  const bool is_done = result && operation.reports;
+  const bool is_done = result && (operation.rules & kReports);
   const bool is_overcome = fault.effect == Effect::kShort ||
                            fault.error == EINTR || fault.error == ENOSYS;
   EXPECT_TRUE(result || !is_overcome);
@@ -375,18 +368,18 @@ void Faults::CheckMemory(const Operation& operation, const State& before,
                          const State& complete, bool is_done,
                          const Snapshot& after) {
   ExpectWhole();
-  if (operation.on != Operation::kPanel) return;
-  const std::vector<std::string> memory = Memory();
+  if (operation.home != kPanel) return;
+  const std::vector<std::string> memory = Look().memory;
   for (std::size_t i = 0; i < memory.size(); ++i) {
-    const bool may_be_old = !is_done && i >= operation.certain;
+    const bool is_new = is_done || (i < 2 && operation.rules & kForgetsAtOnce);
     EXPECT_THAT(memory[i],
                 AnyOf(complete.memory[i],
-                      may_be_old ? before.memory[i] : complete.memory[i]));
+                      is_new ? complete.memory[i] : before.memory[i]));
   }
-  if (!operation.lists_what_is_there) return;
+  if (!(operation.rules & kListsWhatIsThere)) return;
   for (const std::string& site : Listed()) {
-    EXPECT_TRUE(!after.contains(Home::StorageOf(site) + "/one.sol") ||
-                after.contains(Home::SettingsFileOf(site)));
+    EXPECT_TRUE(!after.contains(TemporaryHome::StorageOf(site) + "/one.sol") ||
+                after.contains(TemporaryHome::SettingsFileOf(site)));
   }
 }
 
@@ -409,12 +402,23 @@ void Faults::ExpectUsable(const Snapshot& after) {
   EXPECT_EQ(Held("klimit", kLater), "klimit=1024");
 }
 
+// Directories on the way to what operations change.
+const std::string kPlaces[] = {
+    ".orbelline/Corvane_Player/tessary.example",
+    kSettings,
+    kSettings + "/#a.example",
+    TemporaryHome::kSharedObjects,
+    std::string(TemporaryHome::kSharedObjects) + "/QK5SFBDP",
+    kStorage + kA,
+    kStorage + kA + "/deep",
+};
+
 void Faults::TryAll(std::span<const Fault> faults) {
   std::set<std::string> met;
   for (const Operation& operation : kOperations) {
     Prepare(operation);
     EXPECT_TRUE(operation.run(*this));
-    const State complete = {home_.Take(), Memory()};
+    const State complete = Look();
     for (const Fault& fault : faults) {
       int n = 0;
       for (bool is_met = true; is_met && n < kMostCalls; ++n) {
@@ -428,6 +432,45 @@ void Faults::TryAll(std::span<const Fault> faults) {
     }
   }
   EXPECT_EQ(met.size(), faults.size()) << "a call goes another way";
+}
+
+bool Faults::TryExchange(const Operation& operation, const std::string& place,
+                         int n, bool is_back) {
+  int calls = 0;
+  int exchanges = 0;
+  before_call = [&](unsigned int, const std::string&) {
+    if (calls++ < n || exchanges > is_back) return;
+    exchanges += renameat2(AT_FDCWD, (home_ / "link").c_str(), AT_FDCWD,
+                           (home_ / place).c_str(), RENAME_EXCHANGE) == 0;
+  };
+  if (is_back) faults::Arm(kNoOpenat2, 0);
+  (void)operation.run(*this);
+  (void)faults::Disarm();
+  before_call = nullptr;
+  return exchanges > 0;
+}
+
+TEST_F(Faults, ADirectoryExchangedForALinkLeadsNowhere) {
+  const TemporaryHome elsewhere;
+  for (const std::string& place : kPlaces) {
+    home_.Restore(whole_);
+    elsewhere.Restore({});
+    fs::copy(home_ / place, elsewhere.Path(), fs::copy_options::recursive);
+    const Snapshot precious = elsewhere.Take();
+    for (const Operation& operation : kOperations) {
+      for (const bool is_back : {false, true}) {
+        bool is_exchanged = true;
+        for (int n = 0; is_exchanged && !HasFailure(); ++n) {
+          SCOPED_TRACE(testing::Message() << operation.name << ", " << place
+                                          << " " << n << ", " << is_back);
+          Prepare(operation);
+          fs::create_directory_symlink(elsewhere.Path(), home_ / "link");
+          is_exchanged = TryExchange(operation, place, n, is_back);
+          EXPECT_EQ(elsewhere.Take(), precious);
+        }
+      }
+    }
+  }
 }
 
 TEST_F(Faults, LeaveEverythingElseAloneAndTheNextStartUsable) {

@@ -73,9 +73,11 @@ TEST_F(Setting, PermissionIsWrittenAlwaysFirst) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.then);
     std::string before;  // the last file that goes
-    before_unlink = [&](auto&, auto&) { before = SiteOnDisk("a"); };
+    before_call = [&](unsigned int calls, auto&) {
+      if (calls == faults::kUnlink) before = SiteOnDisk("a");
+    };
     setting.setState(c.state);
-    before_unlink = nullptr;
+    before_call = nullptr;
     EXPECT_EQ(before, c.first);
     EXPECT_EQ(SiteOnDisk("a"), c.then);
     EXPECT_EQ(setting.getState(), c.state == kNone ? kBlock : c.state);
@@ -156,13 +158,13 @@ TEST_F(StorageLimit, ReachesListedSitesAndTheirDataWhenCommitted) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.stored);
     std::string order;
-    before_unlink = [&](const std::string& directory, const auto& name) {
-      if (!name.ends_with(".sol")) return;
-      order += std::filesystem::path(directory).filename().string() + " ";
+    before_call = [&](unsigned int, const std::filesystem::path& path) {
+      if (path.extension() != ".sol") return;
+      order += path.parent_path().filename().string() + " ";
     };
     StorageSetting of_all("defaultklimit", master);
     EXPECT_TRUE(of_all.setPermissionState(c.state).commit());
-    before_unlink = nullptr;
+    before_call = nullptr;
     EXPECT_EQ(order, "sys #a #b #other ");
     EXPECT_EQ(of_all.getValue(), c.stored);
     for (const char* site : {"a", "b"}) {

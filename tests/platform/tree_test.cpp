@@ -135,17 +135,21 @@ TEST_F(Tree, IsReadOnceHoweverManyWaysThereAre) {
     nested += "/d";
     fs::create_directory(home_ / nested);
   }
-  openat_calls = 0;
+  int opened = 0;
+  before_call = [&](unsigned int calls, auto&) {
+    opened += calls & faults::kOpen;
+  };
   EXPECT_EQ(SizeOf("chain/0"), Own("chain/0") + kLength * Own("n"));
   EXPECT_EQ(SizeOf("n"), ~std::uint64_t{0});
   const SharedMeasurement once;
   for (int i = 0; i < 1000; ++i) (void)SizeOf("ring");
-  EXPECT_GE(openat_calls, kLength + kDepth);
-  EXPECT_LT(openat_calls, 3 * (kLength + kDepth + 40))
+  before_call = nullptr;
+  EXPECT_GE(opened, kLength + kDepth);
+  EXPECT_LT(opened, 3 * (kLength + kDepth + 40))
       << "each directory is read once";
 }
 
-TEST_F(Tree, NeedsLittleStackAndFewDescriptorsHoweverDeep) {
+TEST_F(Tree, NeedsLittleHoweverDeepAndWide) {
   constexpr int kDepth = 2000;
   constexpr char kLevel[] = "a name too long for a path of all";
   home_.Write("far/precious", "x");
@@ -176,16 +180,58 @@ TEST_F(Tree, NeedsLittleStackAndFewDescriptorsHoweverDeep) {
     fs::create_directories(home_ / "links");
     Link("../targets" + name, "links" + name);
   }
+  for (int i = 0; i < 5000; ++i) {
+    fs::create_directories(home_ / ("both/" + std::to_string(i)));
+  }
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string name = {static_cast<char>(byte), 'x'};
+    if (byte != '/') home_.Write("both/" + name + "/" + name, "");
+  }
+  home_.Write("both/" + std::string(255, '\xFF'), "");
   const LoweredLimit descriptors(RLIMIT_NOFILE, 12);
   const LoweredLimit stack(RLIMIT_STACK, 256u << 10);
+  const LoweredLimit memory(RLIMIT_DATA, MemoryLimit(2u << 20));
   EXPECT_EQ(SizeOf("d"), Own("d") + Own("d/x") + Own("d/y") + 3 + 2 * size);
   EXPECT_EQ(SizeOf("links"), Own("links") + kWidth * Own("targets/0"));
-  fs::create_directory(home_ / "both");
   for (const char* branch : {"d", "e"}) {
     fs::rename(home_.Path() / "far" / branch, home_.Path() / "both" / branch);
   }
   EXPECT_TRUE(Remove("both"));
   EXPECT_TRUE(home_.Has("far/precious") && !home_.Has("both"));
+}
+
+TEST_F(Tree, IsRemovedAroundWhatFails) {
+  using faults::Effect;
+  const struct {
+    faults::Fault fault;
+    int first_call;  // below the tree's top
+    const char* complaint;
+  } cases[] = {
+      {{"file", faults::kUnlink, Effect::kFail, EPERM},
+       1,
+       "RemoveFilesRecursively: unlink file: Operation not permitted\n"},
+      {{"mount", faults::kRmdir, Effect::kFail, EBUSY},
+       0,
+       "RemoveFilesRecursively: unlink dir: Device or resource busy\n"},
+      {{"unreadable", faults::kOpen, Effect::kFail, EACCES}, 2, ""},
+  };
+  for (const auto& c : cases) {
+    bool is_met = true;
+    for (int n = c.first_call; is_met; ++n) {
+      SCOPED_TRACE(c.fault.name + std::to_string(n));
+      for (const char* name : {"t/a/1", "t/a/2", "t/b/1", "t/b/2"}) {
+        home_.Write(name, "");
+      }
+      testing::internal::CaptureStderr();
+      faults::Arm(c.fault, n);
+      const bool is_removed = Remove("t");
+      is_met = faults::Disarm();
+      const std::string printed = testing::internal::GetCapturedStderr();
+      EXPECT_EQ(printed, is_met ? c.complaint : "");
+      EXPECT_EQ(is_removed, printed.empty());
+      EXPECT_LE(home_.List().size(), is_met ? 4u : 0u) << "one branch stays";
+    }
+  }
 }
 
 }  // namespace

@@ -8,6 +8,7 @@ using namespace image;
 using testing::ElementsAre;
 using testing::IsEmpty;
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 class StoreRemoval : public StoreTest {
  protected:
@@ -146,6 +147,30 @@ TEST_F(StoreRemoval, OfEverythingKeepsTheGlobalSettings) {
   EXPECT_EQ(remove(true, false), all - 13) << "the master file stays";
   EXPECT_THAT(ListedOnDisk(), IsEmpty());
   EXPECT_EQ(Held("defaultklimit"), "defaultklimit=5");
+}
+
+TEST_F(StoreRemoval, FollowsALinkToTheDataAndNoneBelow) {
+  const std::string base = ".orbelline/Corvane_Player";
+  const std::string settings = "/tessary.example";
+  const auto count = [this] {
+    return std::distance(fs::recursive_directory_iterator(home_ / "elsewhere"),
+                         {});
+  };
+  for (const std::string& below : {""s, settings, "/#SharedObjects"s}) {
+    SCOPED_TRACE(below);
+    home_.Restore({});
+    Begin({"a"});
+    fs::rename(home_ / (base + below), home_ / "elsewhere");
+    fs::create_directory_symlink(home_ / "elsewhere", home_ / (base + below));
+    testing::internal::CaptureStderr();
+    Start();
+    EXPECT_EQ(manager_->AddDomainWithDefaultSettings("b"), below != settings);
+    const auto before = count();
+    EXPECT_EQ(manager_->RemoveAllSettingsAndOrLocalStorage(true, true),
+              below.empty());
+    EXPECT_EQ(before == count(), !below.empty());
+    (void)testing::internal::GetCapturedStderr();
+  }
 }
 
 TEST_F(StoreRemoval, ByAgeForgetsTheGlobalSettings) {

@@ -134,13 +134,15 @@ TEST_F(MasterSettings, StayWhileTheirWriterRemovesAndRewritesThem) {
       SCOPED_TRACE(meanwhile + files[i]);
       fs::remove(home_ / files[i]);
       if (meanwhile != "missing") home_.Write(files[i], meanwhile);
-      instead_of_waiting = [&] { home_.Write(files[i], whole[i]); };
+      before_call = [&](unsigned int calls, auto&) {
+        if (calls == faults::kWait) home_.Write(files[i], whole[i]);
+      };
       testing::internal::CaptureStderr();
       Start();
       EXPECT_EQ(Held("defaultklimit"), "defaultklimit=5");
       EXPECT_THAT(Listed(), ElementsAre("a"));
       EXPECT_EQ(Held("klimit", "a"), "klimit=100");
-      instead_of_waiting = nullptr;
+      before_call = nullptr;
       (void)testing::internal::GetCapturedStderr();
     }
   }
@@ -296,6 +298,32 @@ TEST_F(SiteSettings, ThatAreThereStayWhenTheSiteIsAdded) {
   EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("listed"));
   EXPECT_EQ(SiteFile("listed"), "untouched");
   EXPECT_EQ(Master(), "untouched");
+}
+
+TEST_F(SiteSettings, TakeThePlaceOfOddThings) {
+  home_.Write("precious", "");
+  const std::string files[] = {home_ / TemporaryHome::MasterFile(),
+                               home_ / TemporaryHome::SettingsFileOf("a")};
+  for (const std::string command :
+       {"mkfifo \"$place\"", "mkdir -p \"$place/inside\"",
+        "ln -s ~/precious \"$place\"", "ln -s \"$place\" \"$place\"",
+        "ln -s /dev/tty \"$place\""}) {
+    SCOPED_TRACE(command);
+    fs::remove_all(home_ / ".orbelline");
+    fs::create_directories(fs::path(files[1]).parent_path());
+    for (const std::string& file : files) {
+      setenv("place", file.c_str(), 1);
+      ASSERT_EQ(std::system(command.c_str()), 0);
+    }
+    testing::internal::CaptureStderr();  // an empty file has no header
+    Start();
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("a"));
+    (void)testing::internal::GetCapturedStderr();
+    for (const std::string& file : files) {
+      EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(file)));
+    }
+    EXPECT_EQ(home_.Read("precious"), "");
+  }
 }
 
 }  // namespace

@@ -12,10 +12,7 @@
 #include <cstdarg>
 #include <filesystem>
 
-std::function<void(const std::string& directory, const std::string& name)>
-    before_unlink;
-std::function<void()> instead_of_waiting;
-int openat_calls = 0;
+std::function<void(unsigned int calls, const std::string& path)> before_call;
 const char* home_in_password_database = nullptr;
 
 namespace {
@@ -42,8 +39,20 @@ unsigned int LaterFailures() {
   return state.is_full ? faults::kWrite | faults::kMkdir | faults::kCreate : 0U;
 }
 
+std::string PathOf(int directory, const char* name) {
+  const auto entry = "/proc/self/fd/" + std::to_string(directory);
+  return std::filesystem::read_symlink(entry) / name;
+}
+
 // True when the call must fail; errno is then set.
-bool Fails(unsigned int call) {
+bool Fails(unsigned int call, int directory = -1, const char* name = nullptr) {
+  static bool is_acting = false;
+  if (is_acting) return false;
+  if (before_call && call != faults::kAllocate) {
+    is_acting = true;
+    before_call(call, name ? PathOf(directory, name) : "");
+    is_acting = false;
+  }
   if (!state.armed) return false;
   if (call & faults::kUnlink) state.is_full = false;
   if (state.met) {
@@ -110,7 +119,6 @@ int openat(int directory, const char* path, int flags, ...) {
   va_end(arguments);
   static auto* next = Next<int(int, const char*, int, ...)>("openat");
   const bool creates = flags & (O_CREAT | O_TRUNC);
-  ++openat_calls;
   const auto call = faults::kOpen | (creates ? faults::kCreate : 0U);
   return Fails(call) ? -1 : next(directory, path, flags, mode);
 }
@@ -161,12 +169,7 @@ int close(int file) {
 int unlinkat(int directory, const char* name, int flags) {
   static auto* next = Next<int(int, const char*, int)>("unlinkat");
   const auto call = flags & AT_REMOVEDIR ? faults::kRmdir : faults::kUnlink;
-  if (Fails(call)) return -1;
-  if (before_unlink) {
-    const auto entry = "/proc/self/fd/" + std::to_string(directory);
-    before_unlink(std::filesystem::read_symlink(entry), name);
-  }
-  return next(directory, name, flags);
+  return Fails(call, directory, name) ? -1 : next(directory, name, flags);
 }
 
 CAN_FAIL(faults::kMkdir, -1, int, mkdirat,
@@ -186,13 +189,8 @@ CAN_FAIL(faults::kStat, -1, int, fstat, (int file, struct stat* info),
 CAN_FAIL(faults::kStat, -1, int, fstatat,
          (int directory, const char* path, struct stat* info, int flags),
          (directory, path, info, flags))
-
-int usleep(useconds_t microseconds) {
-  static auto* const next = Next<int(useconds_t)>("usleep");
-  if (!instead_of_waiting) return next(microseconds);
-  instead_of_waiting();
-  return 0;
-}
+CAN_FAIL(faults::kWait, -1, int, usleep, (useconds_t microseconds),
+         (microseconds))
 
 passwd* getpwuid(uid_t uid) {
   static auto* const next = Next<passwd*(uid_t)>("getpwuid");

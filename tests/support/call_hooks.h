@@ -6,17 +6,10 @@
 #include <functional>
 #include <string>
 
-// Called before a file is removed, with the path of the directory and the
-// name, where it is set.
-extern std::function<void(const std::string& directory,
-                          const std::string& name)>
-    before_unlink;
-
-// Called in the place of usleep(3), where it is set.
-extern std::function<void()> instead_of_waiting;
-
-// How many calls of openat(2) there have been.
-extern int openat_calls;
+// Called before each faults::Call but an allocation, where it is set, with the
+// path of what is unlinked. Its own calls are not hooked.
+extern std::function<void(unsigned int calls, const std::string& path)>
+    before_call;
 
 // The home directory of every user in the password database, where it is set;
 // "" for a database that knows nobody.
@@ -39,6 +32,7 @@ enum Call : unsigned int {
   kAllocate = 1 << 10,  // malloc, calloc, realloc, and so operator new
   kCreate = 1 << 11,    // the open calls that create or empty a file
   kOpenat2 = 1 << 12,
+  kWait = 1 << 13,  // usleep
 
   // The calls that change the disk.
   kChangesDisk = kCreate | kWrite | kMkdir | kUnlink | kRmdir,

@@ -1,9 +1,11 @@
 #include "tests/support/privileges.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <iterator>
 
 LoweredLimit::LoweredLimit(int resource, rlim_t limit) : resource_(resource) {
@@ -15,6 +17,16 @@ LoweredLimit::LoweredLimit(int resource, rlim_t limit) : resource_(resource) {
 
 LoweredLimit::~LoweredLimit() {
   EXPECT_EQ(setrlimit(static_cast<__rlimit_resource>(resource_), &former_), 0);
+}
+
+rlim_t MemoryLimit(rlim_t bytes) {
+#ifdef __SANITIZE_ADDRESS__
+  return RLIM_INFINITY;
+#endif
+  std::ifstream statm("/proc/self/statm");
+  rlim_t pages = 0;
+  for (int field = 0; field < 6; ++field) statm >> pages;
+  return pages * static_cast<rlim_t>(getpagesize()) + bytes;
 }
 
 std::ptrdiff_t CountDescriptors() {

@@ -19,5 +19,8 @@ class LoweredLimit {
   rlimit former_;
 };
 
+// The limit of RLIMIT_DATA that leaves so many bytes; none for a sanitizer.
+rlim_t MemoryLimit(rlim_t bytes);
+
 // The number of descriptors that the process has open.
 std::ptrdiff_t CountDescriptors();
