@@ -70,6 +70,22 @@ bool CheckRequest(const CommandLine& line, const Request& request) {
   return true;
 }
 
+// How a permission is kept: for one site, or for all.
+struct Place {
+  const char* Permission::*limit_key;
+  double (*limit_kb)(const SASM::SettingsDictionary* settings);
+  PermissionState (*state)(const Permission& permission,
+                           const SASM::SettingsDictionary* settings);
+  void (*put)(const Permission& permission, PermissionState state,
+              SASM::SettingsDictionary* settings);
+};
+constexpr Place kOneSite = {&Permission::limit_key, StoredLimitKb, StoredState,
+                            PutSiteState};
+constexpr Place kEverywhere = {&Permission::global_key, GlobalLimitKb,
+                               GlobalState, PutGlobalState};
+
+enum class Known { kYes, kAdded };
+
 class SetCommand {
  public:
   explicit SetCommand(const CommandLine& line)
@@ -90,84 +106,67 @@ class SetCommand {
 
  private:
   // Leaves a state alone that is stored already.
-  static void Put(const PermissionChange& change,
-                  SASM::SettingsDictionary* site) {
+  static void Put(const PermissionChange& change, const Place& place,
+                  SASM::SettingsDictionary* settings) {
     const Permission& permission = *change.permission;
     if (change.is_limit) {
-      if (StoredLimitKb(site) == change.limit_kb) return;
-      PutNumber(permission.limit_key, change.limit_kb, site);
-    } else if (StoredState(permission, site) != change.state) {
-      PutSiteState(permission, change.state, site);
-    }
-  }
-
-  static void PutGlobally(const PermissionChange& change,
-                          SASM::SettingsDictionary* master) {
-    const Permission& permission = *change.permission;
-    if (change.is_limit) {
-      if (GlobalLimitKb(master) == change.limit_kb) return;
-      PutNumber(permission.global_key, change.limit_kb, master);
-    } else if (GlobalState(permission, master) != change.state) {
-      PutGlobalState(permission, change.state, master);
+      if (place.limit_kb(settings) == change.limit_kb) return;
+      PutNumber(permission.*place.limit_key, change.limit_kb, settings);
+    } else if (place.state(permission, settings) != change.state) {
+      place.put(permission, change.state, settings);
     }
   }
 
   void SetForAllSites(const PermissionChange& change) {
     SettingsEdit edit(SASM::MasterDomainName(), &store_.Master());
-    PutGlobally(change, &edit.After());
+    Put(change, kEverywhere, &edit.After());
     changes_.Add(edit.ToChange());
     if (change.is_limit || change.permission->switch_overrides_sites) return;
     for (const std::string& site : store_.ListedSitesWithSettings()) {
-      SetForKnownSite(site.c_str(), {change});
+      Set(site.c_str(), {change}, Known::kYes);
     }
   }
 
   void SetForSite(const SimpleString& site,
                   const std::vector<PermissionChange>& permissions) {
     if (line_.Has(kAdd) && !store_.IsListed(site.c_str())) {
-      return AddSite(site, permissions);
+      Set(site, permissions, Known::kAdded);
+    } else if (store_.IsKnown(site)) {
+      Set(site, permissions, Known::kYes);
+    } else {
+      unknown_.Report(site.c_str(), "; --add adds it");
+      status_ = kFailure;
     }
-    if (store_.IsKnown(site)) return SetForKnownSite(site, permissions);
-    unknown_.Report(site.c_str(), "; --add adds it");
-    status_ = kFailure;
   }
 
-  // Null when the file is damaged, which is reported: a change would lose
-  // what is left of it.
-  bool ReadSite(const SimpleString& site, SettingsOnDisk* on_disk) {
+  void Set(const SimpleString& site,
+           const std::vector<PermissionChange>& permissions, Known known) {
     const SimpleString file = store_.Layout().SettingsFileOf(site);
-    *on_disk = ReadSettings(file);
-    if (!on_disk->problem.Exists()) return true;
-    PrintProblem(file.c_str(), on_disk->problem);
-    status_ = kFailure;
-    return false;
-  }
-
-  void AddSite(const SimpleString& site,
-               const std::vector<PermissionChange>& permissions) {
-    SettingsOnDisk on_disk;
-    if (!ReadSite(site, &on_disk)) return;
+    const SettingsOnDisk on_disk = ReadSettings(file);
+    if (on_disk.problem.Exists()) {
+      // A change would lose what is left of it.
+      PrintProblem(file.c_str(), on_disk.problem);
+      status_ = kFailure;
+      return;
+    }
     SettingsEdit edit(site, on_disk.dictionary.get());
-    edit.InsertDefaults(store_.Master());
-    for (const auto& change : permissions) Put(change, &edit.After());
+    if (known == Known::kAdded) edit.InsertDefaults(store_.Master());
+    for (const auto& change : permissions) {
+      Put(change, kOneSite, &edit.After());
+    }
     Change change = edit.ToChange();
-    change.lines.insert(change.lines.begin(),
-                        Printable(site.c_str()) + ": added");
-    change.apply = [site, apply = change.apply](SettingsManager& manager) {
-      return manager.AddDomainWithDefaultSettings(site) && apply(manager);
-    };
+    if (known == Known::kAdded) PutOnList(site, &change);
     changes_.Add(std::move(change));
     DeleteDataOfBlocked(site, permissions);
   }
 
-  void SetForKnownSite(const SimpleString& site,
-                       const std::vector<PermissionChange>& permissions) {
-    SettingsOnDisk on_disk;
-    if (!ReadSite(site, &on_disk)) return;
-    SettingsEdit edit(site, on_disk.dictionary.get());
-    for (const auto& change : permissions) Put(change, &edit.After());
-    changes_.Add(edit.ToChange());
-    DeleteDataOfBlocked(site, permissions);
+  // Also adds the defaults.
+  static void PutOnList(const SimpleString& site, Change* change) {
+    change->lines.insert(change->lines.begin(),
+                         Printable(site.c_str()) + ": added");
+    change->apply = [site, apply = change->apply](SettingsManager& manager) {
+      return manager.AddDomainWithDefaultSettings(site) && apply(manager);
+    };
   }
 
   void DeleteDataOfBlocked(const SimpleString& site,
