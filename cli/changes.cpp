@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <unordered_set>
 #include <utility>
@@ -13,26 +14,19 @@
 
 namespace {
 
-void PrintLines(const Change& change) {
-  for (const std::string& line : change.lines) std::puts(line.c_str());
-}
-
-bool ApplyOne(const Change& change, SASM::SettingsManager& manager) {
-  if (!change.apply(manager)) {
-    PrintError(change.subject, "could not be changed");
-    return false;
-  }
-  PrintLines(change);
-  return true;
-}
-
-ExitStatus Apply(const std::vector<Change>& changes) {
+ExitStatus Apply(const std::vector<Change>& changes,
+                 const Changes::Print& print) {
   LinuxFileManager files;
   SASM::SettingsManager manager(&files);
   SASM::ListWriteGuard guard(&manager);
   ExitStatus status = kSuccess;
   for (const Change& change : changes) {
-    if (!ApplyOne(change, manager)) status = kFailure;
+    if (change.apply(manager)) {
+      std::ranges::for_each(change.lines, print);
+      continue;
+    }
+    PrintError(change.subject, "could not be changed");
+    status = kFailure;
   }
   if (guard.Finish()) return status;
   PrintError("the list of sites", "could not be written");
@@ -45,11 +39,17 @@ void Changes::Add(Change change) {
   if (!change.lines.empty()) changes_.push_back(std::move(change));
 }
 
-ExitStatus Changes::Finish(const CommandLine& line) const {
+ExitStatus Changes::Finish(const CommandLine& line, const Print& print) const {
   if (changes_.empty()) return kSuccess;
-  if (!line.Has(kDryRun)) return Apply(changes_);
-  for (const Change& change : changes_) PrintLines(change);
+  if (!line.Has(kDryRun)) return Apply(changes_, print);
+  for (const Change& change : changes_) {
+    std::ranges::for_each(change.lines, print);
+  }
   return kSuccess;
+}
+
+ExitStatus Changes::Finish(const CommandLine& line) const {
+  return Finish(line, [](const std::string& text) { std::puts(text.c_str()); });
 }
 
 bool OwnsHome(const StoreView& store) {

@@ -23,9 +23,14 @@ class Changes {
  public:
   // Drops a change without lines.
   void Add(Change change);
-  // Prints the lines. Unless this is a --dry-run, applies the changes, and
-  // prints the lines of those that were applied. Without changes opens nothing
-  // for writing.
+
+  using Print = std::function<void(const std::string& line)>;
+
+  // Unless this is a --dry-run, applies the changes. Prints the lines of those
+  // that were applied, or would be. Without changes opens nothing for writing.
+  [[nodiscard]] ExitStatus Finish(const CommandLine& line,
+                                  const Print& print) const;
+  // The same on standard output.
   [[nodiscard]] ExitStatus Finish(const CommandLine& line) const;
 
  private:

@@ -19,7 +19,8 @@ void PrintAsText(const std::vector<Finding>& findings) {
   }
 }
 
-void PrintAsJson(const std::vector<Finding>& findings) {
+// The changes of --relist; null without it.
+void PrintAsJson(const std::vector<Finding>& findings, Json changes) {
   json_t* array = json_array();
   for (const Finding& finding : findings) {
     const bool is_site = finding.about == Finding::About::kSite;
@@ -30,6 +31,7 @@ void PrintAsJson(const std::vector<Finding>& findings) {
     json_array_append_new(array, object);
   }
   const Json document(json_object());
+  if (changes) Set(document.get(), "changes", changes.release());
   Set(document.get(), "findings", array);
   PrintJson(document.get(), JSON_COMPACT, stdout);
   std::putchar('\n');
@@ -86,11 +88,17 @@ ExitStatus RunDoctor(const CommandLine& line) {
   if (!store.Layout().IsOnDisk()) return kFailure;
   std::vector<Finding> findings = FindFaults(store, files);
   ExitStatus status = kSuccess;
+  Json changes;
   if (line.Has(kRelist)) {
     if (!OwnsHome(store)) return kFailure;
-    status = Relisting(store, findings).Finish(line);
+    changes.reset(json_array());
+    status = Relisting(store, findings).Finish(line, [&](const auto& text) {
+      if (!line.Has(kJson)) std::puts(text.c_str());
+      json_array_append_new(changes.get(), NewText(text));
+    });
     EraseRelisted(store, &findings);
   }
-  line.Has(kJson) ? PrintAsJson(findings) : PrintAsText(findings);
+  line.Has(kJson) ? PrintAsJson(findings, std::move(changes))
+                  : PrintAsText(findings);
   return findings.empty() ? status : kFailure;
 }

@@ -209,8 +209,11 @@ class ChangesTest(ProgramTest):
              "damaged-file settings.sol", "unlisted-settings new",
              "further-directory z", "unlisted-data data", "link #link"])
         self.put(MASTER, b"")
-        self.assertIn("all sites: defaults again\nUp: added\nb c: added\n"
-                      "good: added\nnew: added\n",
+        changes = ["all sites: defaults again", "Up: added", "b c: added",
+                   "good: added", "new: added"]
+        dry = self.query("doctor --relist --dry-run", status=1)
+        self.assertEqual(dry["changes"], changes)
+        self.assertIn("\n".join(changes),
                       self.run_program("doctor --relist").stdout)
         self.assertEqual(
             [(site["site"], site["storage_limit_kb"])
