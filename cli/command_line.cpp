@@ -276,7 +276,7 @@ void PrintHelp(std::FILE* output) {
                Alternatives(kPermissionChoices).c_str());
   std::fputs(
       "Exit status: 0 on success, 1 if something is damaged, unknown or "
-      "cannot be done,\n2 if the command line is wrong.\n",
+      "cannot be done,\n2 if the command line or the document is wrong.\n",
       output);
 }
 
