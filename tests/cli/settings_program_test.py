@@ -1,75 +1,98 @@
-"""What corvane-player-settings answers and shows."""
+"""What corvane-player-settings answers, shows and changes."""
+import contextlib
+import json
 import os
 import struct
 import unittest
 
-from home import MASTER, data_of, file_of, settings
+from home import (CACHE, LICENCE, MASTER, SETTINGS, SHARED_OBJECTS, HomeTest,
+                  data_of, file_of, settings)
 from make_seeds import BOOL, NUMBER, STRING, entry, image, text
-from settings_program import DAMAGE, PROGRAM, ProgramTest
 
+PROGRAM = os.environ["PROGRAM"]
 STAND_INS = os.environ["STAND_INS"]
+READING = ("show", "inspect", "export", "doctor")
+DAMAGE = "byte 2: The record type is not 2."
+
+# By commands, separated by bars.
 WRONG_ARGUMENTS = """
-shw
-show --jsn
-show --permission
-show -p storage
-show -p storage=
-show -p =block
-show -p disk=block
-show -p storage=none
-show -p storage=block=x
-inspect
-inspect -p storage=block x
-inspect --global x
-version --json
-version x
---json
---json=x show
--x show
-show --null
-show --names a
-export -o
-export -o a -o b
-import
-import a b
-set
-set a.example
-set storage=block
-set camera=1 a
-set storage=-1 a
-set storage=1x a
-set storage=inf a
-set storage=1e999 a
-set camera=ask camera=ask a
-set -- camera=ask a
-set camera=ask a/../b
-set camera=ask ''
-set camera=ask ___MASTER_DOMAIN
-set --all-sites camera=allow
-set --all-sites network=allow
-set --all-sites camera=ask a
-remove
-remove a ..
-clear
-clear all
-clear --older-than 3d cache
-clear --older-than d storage
-clear --older-than 3 storage
-clear --older-than 3dd storage
-clear --older-than 999999999999999999d storage
-trust
-trust ''
-untrust
-doctor --dry-run
-doctor x
+| shw | --json | --json=x show | -x show | version --json | version x
+| show --jsn | show --permission | show -p storage | show -p storage=
+| show -p =block | show -p disk=block | show -p storage=none
+| show -p storage=block=x | show --null | show --names a
+| inspect | inspect -p storage=block x | inspect --global x
+| export -o | export -o a -o b | import | import a b
+| set | set a.example | set storage=block | set camera=1 a
+| set storage=-1 a | set storage=1x a | set storage=inf a
+| set storage=1e999 a | set camera=ask camera=ask a | set -- camera=ask a
+| set camera=ask a/../b | set camera=ask '' | set camera=ask ___MASTER_DOMAIN
+| set --all-sites camera=allow | set --all-sites network=allow
+| set --all-sites camera=ask a | remove | remove a ..
+| clear | clear all | clear --older-than 3d cache
+| clear --older-than d storage | clear --older-than 3 storage
+| clear --older-than 3dd storage
+| clear --older-than 999999999999999999d storage
+| trust | trust '' | untrust | doctor --dry-run | doctor x
 """
-INSTALLED = "is installed on this computer.\n"
+
+
+class ProgramTest(HomeTest):
+    language = "C"
+
+    def run_program(self, arguments):
+        # Without PATH no plug-in of this computer is found.
+        return self.run_in_home(f"'{PROGRAM}' {arguments}", MOZ_PLUGIN_PATH="~",
+                                LC_ALL=self.language, PATH="/nonexistent")
+
+    def query(self, arguments, status=0):
+        run = self.run_program("--json " + arguments)
+        self.assertEqual(run.returncode, status, run.stderr)
+        self.assertTrue(run.stdout.isascii())
+        return json.loads(run.stdout)
+
+    def states(self, names="", status=0):
+        """Of all sites, and of those that are shown."""
+        store = self.query("show " + names, status)
+        return ["{}: {storage} {storage_limit_kb:g} {camera} {network}".format(
+            site.get("site", "all"), **site) + "!" * site["damaged"]
+                for site in (store["global"], *store["sites"])]
+
+    def stats(self):
+        """Of all files and directories, what any change would change."""
+        stats = ((path, path.lstat()) for path in self.home.rglob("*"))
+        return {path: (stat.st_ino, stat.st_mode, stat.st_size,
+                       stat.st_mtime_ns) for path, stat in stats}
+
+    def expect(self, arguments, status, output, error):
+        """The whole output, or None for any, and a part of the errors.
+
+        Where no output is expected nothing changes; reading leaves even the
+        access times."""
+        with self.subTest(arguments[:80], error=error):
+            before = self.stats()
+            for path in before:
+                os.utime(path, ns=(1, path.lstat().st_mtime_ns),
+                         follow_symlinks=False)
+            run = self.run_program(arguments)
+            self.assertEqual(run.returncode, status, run.stderr)
+            if arguments.startswith(READING):
+                self.assertEqual([path for path in before if path.is_file()
+                                  and path.stat().st_atime_ns != 1], [])
+            if output == "" or arguments.startswith((*READING, "--dry-run")):
+                self.assertEqual(self.stats(), before)
+            if output is not None:
+                self.assertEqual(run.stdout, output)
+            if error:
+                self.assertIn(error, run.stderr)
+            else:
+                self.assertEqual(run.stderr, "")
+            return run
 
 
 class CommandLineTest(ProgramTest):
     def test_is_refused_when_it_is_wrong(self):
-        for arguments in WRONG_ARGUMENTS[1:].split("\n"):
-            self.expect(arguments, 2, "", "--help")
+        for arguments in WRONG_ARGUMENTS.split("|")[1:]:
+            self.expect(arguments.strip(), 2, "", "--help")
 
     def test_fails_when_its_output_is_lost(self):
         self.expect("show >/dev/full", 1, "", "No space left on device")
@@ -77,21 +100,15 @@ class CommandLineTest(ProgramTest):
 
     # With a stand-in for the plug-in, or none.
     def test_version(self):
-        for stand_in, output in (
-                ("none", "Tessary Corvane Player is not installed on this "
-                 "computer.\n"),
-                ("good.so", "Tessary Corvane Player 10.1 r53 " + INSTALLED),
-                ("failing.so", "Unable to determine the version of Tessary "
-                 "Corvane Player installed on this computer.\n")):
+        for stand_in, answer in (
+                ("none", "{} is not{}"), ("good.so", "{} 10.1 r53 is{}"),
+                ("failing.so", "Unable to determine the version of {}{}")):
             library = self.home / "libcorvaneplayer.so"
             library.unlink(missing_ok=True)
             library.symlink_to(f"{STAND_INS}/{stand_in}")
-            # Without PATH no plug-in of this computer is found.
-            run = self.run_in_home([PROGRAM, "version"], LC_ALL="C",
-                                   PATH="/nonexistent", MOZ_PLUGIN_PATH="~")
-            self.assertEqual(
-                (run.returncode, run.stdout, run.stderr),
-                (0, "corvane-player-settings 1.0.0\n" + output, ""))
+            self.expect("version", 0, "corvane-player-settings 1.0.0\n" +
+                        answer.format("Tessary Corvane Player",
+                                      " installed on this computer.\n"), "")
 
     # A sanitizer reserves more than any limit.
     @unittest.skipIf(os.environ["SANITIZED"] == "1", "no limit of memory")
@@ -137,31 +154,11 @@ class ShowTest(ProgramTest):
     def store_master(self, **values):
         self.put(MASTER, settings({"domains": SITES} | values))
 
-    def global_states(self):
-        return [self.query("show")["global"][key] for key in
-                ("storage", "camera", "network", "damaged")]
-
-    def site_states(self, names=""):
-        return [tuple(site[key] for key in (
-            "site", "storage", "storage_limit_kb", "camera", "network",
-            "damaged")) for site in self.query("show " + names)["sites"]]
-
-    def test_shows_defaults_when_nothing_is_stored(self):
-        home = self.home
-        (home / "none").mkdir()
-        for name in ("none", "missing"):
-            self.home = home / name
-            self.assertEqual(self.global_states(),
-                             ["allow", "ask", "ask", False])
-            self.assertEqual(list((home / "none").iterdir()), [])
-            self.assertFalse((home / "missing").exists())
-
     def test_shows_sites_in_order_with_all_their_settings(self):
-        self.assertEqual(self.site_states(), [
-            ("block", "block", -1, "block", "ask", False),
-            (ESC, "allow", 10240, "allow", "block", False),
-            ("ask", "ask", 0, "ask", "ask", False),
-            ("\ufffd", "allow", -2, "ask", "ask", False)])
+        self.assertEqual(self.states(), [
+            "all: allow 100 ask ask", "block: block -1 block ask",
+            ESC + ": allow 10240 allow block", "ask: ask 0 ask ask",
+            "\ufffd: allow -2 ask ask"])
         self.assertEqual(self.query("show")["trusted_locations"], ["/a\n"])
         self.expect("show", 0, TABLE, "")
 
@@ -176,13 +173,11 @@ class ShowTest(ProgramTest):
     def test_a_global_block_overrides_a_site(self):
         self.put(file_of("ask"), image(entry("p2palways", BOOL, 1),
                                        entry("p2pallow", BOOL, 7)))
-        self.assertEqual(self.site_states("ask"),
-                         [("ask", "block", -1, "ask", "allow", False)])
+        self.assertEqual(self.states("ask")[1:], ["ask: block -1 ask allow"])
         self.store_master(disallowP2PUplink=True, defaultalways=True,
                           defaultklimit="of another type")
-        self.assertEqual(self.global_states(), ["block"] * 3 + [False])
-        self.assertEqual(self.site_states("ask"),
-                         [("ask", "block", -1, "ask", "block", False)])
+        self.assertEqual(self.states("ask"), ["all: block -1 block block",
+                                              "ask: block -1 ask block"])
 
     def test_shows_the_sites_that_were_asked_for(self):
         self.store("unlisted", klimit=10)
@@ -197,15 +192,12 @@ class ShowTest(ProgramTest):
                 ("-p camera=ask -p storage=allow", 0, "\ufffd", "unlisted"),
                 ("-p storage=block -p storage=ask", 0),
                 ("-p storage=block -- ask", 0)):
-            with self.subTest(arguments):
-                self.assertEqual(self.names("show " + arguments, status),
-                                 names)
+            shown = self.states(arguments, status)[1:]
+            self.assertEqual([state.split(": ")[0] for state in shown], names)
         for options in ("", "--json "):
-            self.expect(
-                f"show {options}empty Ask", 1, "",
-                "corvane-player-settings: empty: no such site\n"
-                "corvane-player-settings: Ask: no such site; did you mean "
-                "ask?\n")
+            self.expect(f"show {options}empty Ask", 1, "", "corvane-player-"
+                        "settings: empty: no such site\ncorvane-player-settings"
+                        ": Ask: no such site; did you mean ask?\n")
 
     def test_names_what_is_damaged_and_shows_the_rest(self):
         end = "attempted to read beyond end-of-stream."
@@ -218,36 +210,15 @@ class ShowTest(ProgramTest):
                  "byte 36: ReadU8() " + end, "allow block allow allow! allow"),
                 (MASTER, b"", "byte 0: ReadU16() " + end,
                  "allow! allow! block allow allow")):  # listed no more
-            with self.subTest(damage):
-                self.put(name, data)
-                store = self.query("show", status=1)
-                self.assertEqual(" ".join(
-                    place["storage"] + "!" * place["damaged"]
-                    for place in [store["global"], *store["sites"]]), shown)
-                self.expect("show", 1, None, "corvane-player-settings: "
-                            f"{self.home / name}: {damage}\n")
+            self.put(name, data)
+            self.assertEqual(" ".join(
+                state.split()[1] + "!" * state.endswith("!")
+                for state in self.states(status=1)), shown)
+            self.expect("show", 1, None, "corvane-player-settings: "
+                        f"{self.home / name}: {damage}\n")
         (self.home / MASTER).unlink()
         (self.home / MASTER).mkdir()
         self.expect("show", 1, None, "not a settings file")
-
-    def test_changes_nothing(self):
-        self.put(file_of("block"), b"garbage")
-        self.put(data_of("ask"))
-        # Reading a file updates an access time older than the last change.
-        for path in self.home.rglob("*"):
-            os.utime(path, (1, path.stat().st_mtime))
-
-        def state():
-            stats = ((path, path.stat()) for path in self.home.rglob("*"))
-            return [(path, stat.st_ino, stat.st_mode, stat.st_ctime_ns,
-                     path.is_file() and stat.st_atime_ns)
-                    for path, stat in stats]
-        before = state()
-        name = self.home / file_of("ask")
-        for arguments in ("show", "show --json ask gone", f"inspect '{name}'",
-                          f"inspect --json '{name}'"):
-            self.run_program(arguments)
-            self.assertEqual(state(), before, arguments)
 
     def test_speaks_the_language_of_the_user_but_not_in_json(self):
         self.language = "de_DE.UTF-8"
@@ -259,8 +230,7 @@ class ShowTest(ProgramTest):
 class InspectTest(ProgramTest):
     def inspect(self, data, status=1):
         self.put("f", data)
-        listed, = self.query(f"inspect '{self.home}/f'", status)
-        return listed
+        return self.query(f"inspect '{self.home}/f'", status)[0]
 
     def test_lists_entries_with_types_and_offsets(self):
         self.put("f", image(
@@ -300,14 +270,20 @@ class InspectTest(ProgramTest):
                  "Unexpected data-type"),
                 (of(good + text("k") + b"\3\0\1a\3\0\0\x09\0" + good), 3, 39,
                  "Nested arrays")):
-            with self.subTest(message):
-                found = self.inspect(data)
-                self.assertEqual((len(found.get("entries", [])),
-                                  found["damage"]["offset"]), (listed, offset))
-                run = self.run_program(f"inspect '{self.home}/f'")
-                self.assertEqual(run.returncode, 1)
-                self.assertIn(f"{offset}  damage   {message}", run.stdout)
-                self.assertIn(f"f: byte {offset}: {message}", run.stderr)
+            found = self.inspect(data)
+            self.assertEqual((len(found.get("entries", [])),
+                              found["damage"]["offset"]), (listed, offset))
+            run = self.expect(f"inspect '{self.home}/f'", 1, None,
+                              f"f: byte {offset}: {message}")
+            self.assertIn(f"{offset}  damage   {message}", run.stdout)
+        # It goes on to the next file.
+        arguments = f"inspect '{self.home}/f' '{self.home}/.' /missing /missing"
+        self.assertEqual(["damage" in file for file in
+                          self.query(arguments, status=1)],
+                         [True, False, False, False])
+        for error in ("missing: No such file or directory\n",
+                      "/.: not a settings file\n"):
+            self.expect(arguments, 1, None, error)
 
     def test_writes_json_for_any_bytes(self):
         every = bytes(range(1, 256))
@@ -322,28 +298,203 @@ class InspectTest(ProgramTest):
         self.assertEqual(len(listed["name"]), 255)
         self.assertEqual(listed["name"], first["key"])
         self.assertEqual(listed["name"], first["value"])
-        numbers = [{"offset": 823, "key": "nan", "value": "NaN"},
-                   {"offset": 838, "key": "max",
-                    "value": 1.7976931348623157e308},
-                   {"offset": 853, "key": "zero", "value": -0.0}]
-        self.assertEqual(others, [
-            {"offset": 793, "key": "list", "type": "array", "value": [
+        self.assertEqual(
+            [(entry["offset"], entry["key"], entry["type"],
+              repr(entry["value"])) for entry in others],
+            [(793, "list", "array", repr([
                 {"name": 'x"\n', "type": "boolean", "value": False},
-                {"name": "n", "type": "number", "value": "-Infinity"}]},
-            *({**number, "type": "number"} for number in numbers)])
-        self.assertTrue(str(others[-1]["value"]).startswith("-"))
+                {"name": "n", "type": "number", "value": "-Infinity"}])),
+             (823, "nan", "number", "'NaN'"),
+             (838, "max", "number", "1.7976931348623157e+308"),
+             (853, "zero", "number", "-0.0")])
 
-    # A file may be cut at any byte.
-    def test_goes_on_to_the_next_file_whatever_this_one_holds(self):
-        data = image(entry("list", 3, [("a", NUMBER, 1)]),
-                     entry("k", STRING, "text"), name="name")
-        for size in range(len(data) + 1):
-            self.put(f"{size:03}", data[:size])
-        arguments = f"inspect '{self.home}'/* '{self.home}/.' /missing"
-        listed = self.query(arguments, status=1)
-        self.assertEqual(len(listed), len(data) + 3)
-        self.assertEqual(sum("damage" in file and bool(file["damage"])
-                             for file in listed), len(data))
-        for error in ("missing: No such file or directory\n",
-                      "/.: not a settings file\n"):
-            self.expect(arguments, 1, None, error)
+
+def document(members):
+    return '{"format": "corvane-player-settings 1", %s}' % members
+
+
+POLICY = document("""
+    "global": [{"key": "defaultalways", "value": true},
+               {"key": "x", "value": {"number": "NaN"}}],
+    "trusted_locations": ["/p"],
+    "sites": [{"site": "a.example", "settings": [
+                  {"key": "klimit", "value": -1},
+                  {"key": "p2palways", "value": true}]},
+              {"site": "e", "listed": false, "settings": [
+                  {"key": "klimit", "value": 5}, {"key": "k", "value": "x"},
+                  {"key": "allow", "value": false}]}]""")
+# Each row works on what the rows above have left.
+CHANGES = [
+    ("set --add storage=250 camera=allow a.example b.example",
+     "a.example: added; a.example: storage allow → 250; "
+     "a.example: camera ask → allow; b.example: added; "
+     "b.example: storage allow → 250; b.example: camera ask → allow"),
+    ("set storage=allow camera=allow a.example", ""),
+    ("set --add network=block -- c=d a.example", "c=d: added; "
+     "c=d: network ask → block; a.example: network ask → block"),
+    ("set --all-sites camera=block storage=7", "all sites: camera ask → block; "
+     "a.example: camera allow → block; b.example: camera allow → block; "
+     "c=d: camera ask → block; all sites: storage allow → 7"),
+    ("set --all-sites network=block", "all sites: network ask → block"),
+    ("clear --older-than 4d storage", ""),
+    ("clear --older-than 48h --keep .example storage", ""),
+    ("clear --older-than 2d storage",
+     "all sites: stored data older than 2d deleted"),
+    ("set storage=block a.example", "a.example: storage 250 → block"),
+    ("remove --keep-data c=d nobody", "c=d: removed"),
+    ("remove d.example", "d.example: stored data deleted"),
+    ("trust /t/1 /t/2 /t/1", "/t/1: trusted; /t/2: trusted"),
+    ("untrust /t/1 /t/3", "/t/1: no longer trusted"),
+    ("import ~/policy", "all sites: x unset → nan; /p: trusted; e: added; "
+     'e: storage unset → 5; e: camera unset → ask; e: k unset → "x"'),
+    ("import --replace ~/policy", "all sites: storage 7 → allow; "
+     "all sites: network block → ask; /t/2: no longer trusted; b.example: "
+     "removed; a.example: camera block → unset; a.example: p2pallow false → "
+     "unset"),
+    ("clear --keep a.example settings", "e: removed"),
+    ("clear settings cache licences storage", "all sites: stored data deleted; "
+     "all sites: settings removed; asset cache: deleted; licences: deleted"),
+]
+
+
+WRONG_DOCUMENTS = [
+    ("", ":1:0: "), ("[" * 100000, "maximum parsing depth"),
+    ("[]", ": the document: is not an object"),
+    ("{}", ": format: is missing"),
+    ('{"format": "corvane-player-settings 2"}', ": format: is not"),
+]
+WRONG_DOCUMENTS += [(document(members), problem) for members, problem in (
+    ('\n"sites": x', ":2:10: "),
+    ('"sites": [], "sites": []', "duplicate object key"),
+    (r'"\u001b": 1', ": \\x1B: is an unknown member"),
+    ('"global": {}', ": global: is not an array"),
+    ('"global": [{"key": "domains", "value": 1}]',
+     ": global[0].key: has a member of its own"),
+    ('"trusted_locations": [""]', ": trusted_locations[0]: is empty"),
+    ('"sites": [{"site": "..", "settings": []}]',
+     ": sites[0].site: can be no site"),
+    ('"sites": [{"site": "a", "settings": []}, '
+     '{"site": {"bytes": "61"}, "settings": []}]',
+     ": sites[1].site: is there twice"),
+    ('"sites": [{"site": "a", "listed": 1, "settings": []}]',
+     ": sites[0].listed: is neither true nor false"),
+)]
+WRONG_DOCUMENTS += [(document("""
+    "sites": [{"site": "a", "settings": []}, {"site": "b", "settings": [
+        {"key": "k", "value": VALUE}]}]""".replace("VALUE", value)), problem)
+    for value, problem in (
+    ("null", ": sites[1].settings[0].value: is no value"),
+    ('{"bytes": "6"}', ".value.bytes: is not a text of hex"),
+    ('{"bytes": "00"}', ".value.bytes: is not a text of hex"),
+    (r'"a\u0000b"', ":3:"), ("1e999", ":3:"),
+    ('"' + "x" * 65536 + '"', "longer than 65535"),
+    ('{"number": "1"}', ".value.number: is not"),
+    ('{"array": [{"name": "", "value": 1}]}',
+     ".value.array[0].name: is empty"),
+    ('{"array": [{"name": "a", "value": {"array": []}}]}',
+     ".value.array[0].value: is an array within an array"),
+    ('1}, {"key": "k", "value": 1',
+     ": sites[1].settings[1].key: is there twice"),
+)]
+
+
+class ChangesTest(ProgramTest):
+    def test_are_printed_once_and_made_once(self):
+        data = data_of("a.example")
+        for name in (data, data_of("d.example"), CACHE, LICENCE):
+            self.put(name)
+        long_ago = (self.home / data).stat().st_mtime - 259200
+        os.utime(self.home / data, (long_ago, long_ago))
+        self.put("policy", POLICY.encode())
+        for arguments, changes in CHANGES:
+            output = changes and changes.replace("; ", "\n") + "\n"
+            self.expect("--dry-run " + arguments, 0, output, "")
+            self.expect(arguments, 0, output, "")
+            self.expect(arguments, 0, "", "")
+
+    def test_are_refused_as_a_whole(self):
+        self.put(MASTER, b"damaged")
+        refused = ("set --add camera=ask a", "remove a", "clear settings",
+                   "trust /x", "untrust /x")
+        for arguments in refused:
+            self.expect(arguments, 1, "", "doctor --relist")
+        with contextlib.suppress(PermissionError):  # only root gives it away
+            os.chown(self.home, 1234, 1234)
+            for arguments in refused:
+                self.expect(arguments, 1, "", "run it as that user")
+
+    def test_leave_out_what_is_damaged_or_unknown(self):
+        self.put(file_of("bad"), b"damaged")
+        self.run_program("set --add camera=ask good")
+        for arguments, output, error in (
+                ("set camera=block bad good", "good: camera ask → block\n",
+                 DAMAGE),
+                ("set camera=ask Good good", "good: camera block → ask\n",
+                 "Good: no such site; did you mean good?; --add adds it"),
+                ("export", "", DAMAGE),
+                ("export nobody", "", "nobody: no such site")):
+            self.expect(arguments, 1, output, error)
+        self.assertEqual(self.read(file_of("bad")), b"damaged")
+
+    def test_of_a_wrong_document_are_not_made(self):
+        for wrong, problem in WRONG_DOCUMENTS:
+            self.put("document", wrong.encode())
+            self.expect("import ~/document", 2, "", problem)
+        self.put("document", document('"sites": []').encode())
+        self.expect("import --replace ~/document", 2, "", "global: is missing")
+        self.put("document", bytes((64 << 20) + 1))
+        self.expect("import ~/document", 2, "", "larger than 64 MiB")
+        self.expect("import /nonexistent", 2, "", "No such file")
+        self.expect("import /", 2, "", "directory")
+
+    def test_carry_all_settings_to_another_home(self):
+        self.put(file_of(os.fsdecode(b"\xff")), image(
+            entry("a", 3, [(b"\xfe", STRING, "x\x7f\u202e"),
+                           ("b", NUMBER, -0.0)]),
+            entry("", BOOL, 1), entry("least", NUMBER, 5e-324)))
+        self.run_program("set --add camera=allow listed a/b a")
+        self.run_program("trust /x")
+        exported = self.run_program("export").stdout
+        self.assertRegex(exported, r"\A[\n -~]*\Z")
+        self.home /= "other"
+        self.put("document", exported.encode())
+        self.expect("import ~/document", 0, None, "")
+        self.assertEqual(self.run_program("export").stdout, exported)
+        self.expect("show --names --null", 0, "a\0a/b\0listed\0", "")
+        # The sites below and above it stay.
+        one = json.loads(self.run_program("export a/b").stdout)
+        self.put("b", json.dumps(
+            one | {"global": [], "trusted_locations": []}).encode())
+        self.expect("import --replace --delete-data ~/b", 0, None, "")
+        self.expect("show --names", 0, "a/b\n", "")
+
+    def test_are_proposed_by_the_doctor(self):
+        for self.home in (self.home / "missing", self.home):
+            self.expect("doctor", 0, "", "")
+            self.assertEqual(self.states(), ["all: allow 100 ask ask"])
+            self.expect("show", 0, None, "")
+        self.run_program("set --add camera=allow good Up 'b c' bad gone")
+        self.put(file_of("bad"), b"damaged")
+        (self.home / file_of("gone")).unlink()
+        self.put(file_of("new"), settings({"klimit": 5}))
+        self.put(data_of("data"))
+        self.put(SHARED_OBJECTS + "/z/x")
+        (self.home / SETTINGS / "#link").symlink_to("/tmp")
+        self.assertEqual(
+            [finding["kind"] + " " +
+             (finding.get("site") or os.path.basename(finding["path"]))
+             for finding in self.query("doctor", status=1)["findings"]],
+            ["impossible-name Up", "impossible-name b c", "missing-file gone",
+             "damaged-file settings.sol", "unlisted-settings new",
+             "further-directory z", "unlisted-data data", "link #link"])
+        self.put(MASTER, b"")
+        changes = ["all sites: defaults again", "Up: added", "b c: added",
+                   "good: added", "new: added"]
+        dry = self.query("doctor --relist --dry-run", status=1)
+        self.assertEqual(dry["changes"], changes)
+        self.assertIn("\n".join(changes),
+                      self.run_program("doctor --relist").stdout)
+        self.assertEqual(
+            [(site["site"], site["storage_limit_kb"])
+             for site in self.query("show", 1)["sites"] if site["listed"]],
+            [("Up", 100), ("b c", 100), ("good", 100), ("new", 5)])
