@@ -1,7 +1,12 @@
 // Removal of site data, and sizes.
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <memory>
+#include <string>
 
+#include "platform/open_below.h"
 #include "store/settings_manager.h"
 #include "store/stored_data.h"
 
@@ -28,10 +33,15 @@ bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,
 }
 
 void SettingsManager::RemoveEmptyDirectoriesAbove(const SimpleString& site) {
-  const SimpleString top = mLayout.TopDirectoryOf(site);
-  if (top == mLayout.DirectoryOf(site)) return;
-  // Takes no file, since no age lies between the bounds.
-  (void)mFileManager->RemoveFilesInDirectoryInDateRange(top, 0, 0);
+  for (std::string name = site.c_str(); name.find('/') != name.npos;) {
+    name.resize(name.rfind('/'));
+    const std::string way = mLayout.WayToDirectoryOf(name.c_str()).c_str();
+    const std::size_t slash = way.rfind('/');
+    const FileDescriptor holder = OpenBelow(mLayout.BaseDirectory().c_str(),
+                                            way.substr(0, slash).c_str());
+    if (!holder.IsOpen()) return;
+    if (unlinkat(holder.Get(), &way[slash + 1], AT_REMOVEDIR) != 0) return;
+  }
 }
 
 bool SettingsManager::RemoveAllSettingsAndOrLocalStorage(bool remove_settings,

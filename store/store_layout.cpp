@@ -1,7 +1,6 @@
 #include "store/store_layout.h"
 
 #include <memory>
-#include <string>
 
 namespace SASM {
 namespace {
@@ -52,11 +51,6 @@ SimpleString StoreLayout::DirectoryOf(const SimpleString& domain) const {
 
 SimpleString StoreLayout::SettingsFileOf(const SimpleString& domain) const {
   return Join(DirectoryOf(domain), kSettingsFileName);
-}
-
-SimpleString StoreLayout::TopDirectoryOf(const SimpleString& site) const {
-  const std::string name = site.c_str();
-  return DirectoryOf(name.substr(0, name.find('/')).c_str());
 }
 
 SimpleString StoreLayout::DictionaryNameOf(const SimpleString& domain) const {

@@ -34,9 +34,6 @@ class StoreLayout {
   // The same, from the base directory on.
   [[nodiscard]] SimpleString WayToDirectoryOf(const SimpleString& domain) const;
   [[nodiscard]] SimpleString SettingsFileOf(const SimpleString& domain) const;
-  // The highest directory that was made for the site's settings alone: that of
-  // "a/b" is the one of "a".
-  [[nodiscard]] SimpleString TopDirectoryOf(const SimpleString& site) const;
   // The name a domain's settings file carries inside.
   [[nodiscard]] SimpleString DictionaryNameOf(const SimpleString& domain) const;
 

@@ -91,6 +91,8 @@ TEST_F(StoreRemoval, AndEverythingElseRefusesWhatIsNoSiteName) {
 
 TEST_F(StoreRemoval, OfASiteWithSlashesLeavesNoEmptyDirectory) {
   Begin({"a"});
+  std::filesystem::create_directories(
+      home_ / TemporaryHome::SettingsFileOf("b/empty directory of another"));
   for (const std::string name :
        {"a/b/c", "b/c/d", "...", "..a", "a..", "a b", "#", "~", "a/..."}) {
     SCOPED_TRACE(name);
