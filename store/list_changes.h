@@ -25,7 +25,8 @@ class SettingsManager::ListChanges {
                               const SDIVector& domains);
   // `site` has been appended to the list.
   void NoteAppended(const SimpleString& site);
-  // An element of this name, the last one, is to be removed from the list.
+  // An element of this name, the last one, is to be removed from the list if
+  // it has one.
   void NoteRemoved(const SimpleString& site);
 
   // The list has been replaced by another.
@@ -37,7 +38,8 @@ class SettingsManager::ListChanges {
  private:
   // The names that the list will have; made when they are first asked for.
   std::optional<Names> names_;
-  // A name for each element that is to be removed.
+  // A name for each element that is to be removed. Until `names_` is made,
+  // there may also be names that are not listed.
   Names removed_;
   bool is_changed_ = false;
 };

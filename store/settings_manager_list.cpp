@@ -25,11 +25,13 @@ bool EraseOne(std::string_view name, Names* names) {
 bool SettingsManager::ListChanges::IsListed(const SimpleString& site,
                                             const SDIVector& domains) {
   if (!names_) {
-    names_.emplace();
+    names_.emplace(domains.count);
     for (unsigned int i = 0; i < domains.count; ++i) {
       names_->insert(domains.At(i)->name.c_str());
     }
-    for (const std::string& name : removed_) EraseOne(name, &*names_);
+    std::erase_if(removed_, [this](const std::string& name) {
+      return !EraseOne(name, &*names_);
+    });
   }
   return names_->contains(std::string_view(site.c_str()));
 }
@@ -41,8 +43,8 @@ void SettingsManager::ListChanges::NoteAppended(const SimpleString& site) {
 
 void SettingsManager::ListChanges::NoteRemoved(const SimpleString& site) {
   is_changed_ = true;
+  if (names_ && !EraseOne(site.c_str(), &*names_)) return;
   removed_.insert(site.c_str());
-  if (names_) EraseOne(site.c_str(), &*names_);
 }
 
 void SettingsManager::ListChanges::Forget() {
@@ -163,10 +165,7 @@ bool SettingsManager::StoreDomains() {
 }
 
 void SettingsManager::Unlist(const SimpleString& site) {
-  if (mListChanges) {
-    if (IsListed(site)) mListChanges->NoteRemoved(site);
-    return;
-  }
+  if (mListChanges) return mListChanges->NoteRemoved(site);
   SDIVector* domains = GetDomains();
   for (unsigned int i = domains->count; i-- > 0;) {
     if (!(domains->At(i)->name == site)) continue;
