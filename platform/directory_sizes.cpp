@@ -45,7 +45,8 @@ DirectorySizes::Directory* DirectorySizes::Read(const char* path,
                                                 const FileIdentity& identity) {
   const auto [entry, is_new] = directories_.try_emplace(identity);
   if (is_new) {
-    ReadLater(AT_FDCWD, path, identity);
+    // The walk does not follow a link in its last component, which is ".".
+    Walk(AT_FDCWD, (std::string(path) + "/.").c_str(), identity);
     ReadAllRoots();
   }
   return &entry->second;
