@@ -71,18 +71,13 @@ class HashMap {
   // present; only a new key is copied or moved. Returns the key's node.
   template <typename Key>
   iterator insert(Key&& key, V value) {
-    const unsigned int hash = Hash(key);
-    Node* node = FindNode(key, hash);
-    if (node != &sentinel_) {
-      node->value = std::move(value);
-    } else {
-      node = new Node{K(std::forward<Key>(key)), std::move(value),
-                      hash % kBucketCount, hash};
-      Link(node);
-      AddToIndex(node);
-    }
+    Node* node = FindOrAddNode(std::forward<Key>(key));
+    node->value = std::move(value);
     return iterator(this, node);
   }
+
+  // The value under the key; an empty one is stored under a new key.
+  V& operator[](const K& key) { return FindOrAddNode(key)->value; }
 
   // Removes the entry at a position other than end().
   void erase(iterator position) {
@@ -139,6 +134,19 @@ class HashMap {
       if (node->hash == hash && node->key == key) return node;
     }
     return &sentinel_;
+  }
+
+  template <typename Key>
+  Node* FindOrAddNode(Key&& key) {
+    const unsigned int hash = Hash(key);
+    Node* node = FindNode(key, hash);
+    if (node == &sentinel_) {
+      node =
+          new Node{K(std::forward<Key>(key)), V(), hash % kBucketCount, hash};
+      Link(node);
+      AddToIndex(node);
+    }
+    return node;
   }
 
   void Link(Node* node) {

@@ -127,10 +127,9 @@ SettingsDictionary* SettingsManager::StandIn(const SimpleString& domain) {
 SettingsDictionary* SettingsManager::SetDictionary(
     const SimpleString& domain,
     std::unique_ptr<SettingsDictionary> dictionary) {
-  mReplaced.emplace_back(LoadedDictionary(domain));
-  if (!mReplaced.back()) mReplaced.pop_back();
-  mDomainSettings.insert(domain, dictionary.get());
-  return dictionary.release();
+  SettingsDictionary*& held = mDomainSettings[domain];
+  if (held) mReplaced.emplace_back(held);
+  return held = dictionary.release();
 }
 
 void SettingsManager::DeleteAllDictionaries() {
