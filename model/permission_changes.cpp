@@ -38,9 +38,8 @@ bool SetGlobalState(const Permission& permission, PermissionState state) {
   if (permission.limit_key) {
     return CommitLimit(permission.global_key, master, state);
   }
-  const bool blocks = state == kPermissionStateAlwaysDeny;
   SettingBase(permission.global_key, master)
-      .setBoolValue(blocks, permission.global_key);
+      .setBoolValue(SwitchOf(state), permission.global_key);
   return permission.switch_overrides_sites ||
-         SetStateOfListedSites(permission, StateOf(blocks, false));
+         SetStateOfListedSites(permission, StateOf(SwitchOf(state), false));
 }

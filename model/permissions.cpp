@@ -89,5 +89,5 @@ void PutGlobalState(const Permission& permission, PermissionState state,
     return PutNumber(permission.global_key, ChoiceOrBlock(state).limit_kb,
                      master);
   }
-  PutBool(permission.global_key, state == kPermissionStateAlwaysDeny, master);
+  PutBool(permission.global_key, SwitchOf(state), master);
 }

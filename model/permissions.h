@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "settings/settings_dictionary.h"
+#include "store/default_settings.h"
 #include "store/setting_keys.h"
 
 // The numbers are those of the permission choices in lists and combo boxes.
@@ -59,7 +60,7 @@ inline constexpr PermissionChoice kPermissionChoices[] = {
      .choice_text_id = 11102,
      .fallback = "Allow",
      .icon = "icon_corvane_always_allow",
-     .limit_kb = 100.0},
+     .limit_kb = SASM::kDefaultLimitKb},
 };
 
 // Null for None and for a number that is no state.
@@ -95,8 +96,8 @@ struct Permission {
   // Key of the global settings: a limit as well, or a switch that blocks all
   // sites.
   const char* global_key;
-  // True: the switch overrides what the sites have stored, and leaves it
-  // stored. False: a global state is written to every listed site too.
+  // True: a change of the global state changes nothing of the sites, and Block
+  // overrides them. False: the new state is written to every listed site too.
   bool switch_overrides_sites = false;
 
   // The state offered for a new site; None stands for the global state.
@@ -156,6 +157,11 @@ static_assert(kPermissions[kStorage].kind == kStorage &&
 }
 [[nodiscard]] constexpr bool AllowOf(PermissionState state) {
   return state == kPermissionStateAlwaysAllow;
+}
+
+// The global switch that is stored for a state.
+[[nodiscard]] constexpr bool SwitchOf(PermissionState state) {
+  return state == kPermissionStateAlwaysDeny;
 }
 
 // The state that a limit stands for: Block for every other negative one.

@@ -16,7 +16,7 @@ constexpr DefaultSetting kMasterSettings[] = {
     {"crossdomainAlways", kBool, true, nullptr},
     {"crossdomainAllow", kBool, false, nullptr},
     {kTrustedPaths, kArray, 0, nullptr},
-    {kDefaultStorageLimit, kNumber, 100, nullptr},
+    {kDefaultStorageLimit, kNumber, kDefaultLimitKb, nullptr},
     {"allowThirdPartyLSOAccess", kBool, true, nullptr},
     {"secureCrossDomainCacheSize", kNumber, -1, nullptr},
     {kDisallowP2PUplink, kBool, false, nullptr},
@@ -27,7 +27,7 @@ constexpr DefaultSetting kMasterSettings[] = {
 constexpr DefaultSetting kDomainSettings[] = {
     {kCameraAllow, kBool, false, nullptr},
     {kCameraAlways, kBool, false, kDefaultCameraAlways},
-    {kStorageLimit, kNumber, 100, kDefaultStorageLimit},
+    {kStorageLimit, kNumber, kDefaultLimitKb, kDefaultStorageLimit},
     {kP2PAllow, kBool, false, nullptr},
     {kP2PAlways, kBool, false, nullptr},
 };

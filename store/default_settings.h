@@ -17,6 +17,9 @@ struct DefaultSetting {
   const char* master_key;
 };
 
+// The storage limit of all sites, and of a site that is allowed to store data.
+inline constexpr double kDefaultLimitKb = 100;
+
 // In the order in which missing keys are inserted.
 [[nodiscard]] std::span<const DefaultSetting> DefaultMasterSettings();
 [[nodiscard]] std::span<const DefaultSetting> DefaultDomainSettings();
