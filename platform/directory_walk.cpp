@@ -11,11 +11,6 @@
 
 namespace {
 
-// Directories kept open at once: fewer than the 1,024 files that a process may
-// usually have open. A tree this deep is walked without ever opening a
-// directory twice.
-constexpr std::size_t kMostOpenDirectories = 960;
-
 // A directory that waits to be entered.
 struct Subdirectory {
   std::string name;

@@ -19,9 +19,9 @@ struct FileIdentity {
 
 // Walks a tree depth first; each directory is read whole before its
 // subdirectories are entered. Follows no symbolic link. Works relative to open
-// directories, of which it keeps a fixed number, and fewer where the process
-// can have no more; neither the stack nor the descriptors grow with the depth
-// of the tree. Memory grows with the depth and with the names of the
+// directories, of which it keeps kMostOpenDirectories, and fewer where the
+// process can have no more; neither the stack nor the descriptors grow with the
+// depth of the tree. Memory grows with the depth and with the names of the
 // directories that wait to be entered.
 //
 // A subclass says what happens to an entry and to a directory that is done.
@@ -29,6 +29,10 @@ class DirectoryWalk {
  public:
   DirectoryWalk(const DirectoryWalk&) = delete;
   DirectoryWalk& operator=(const DirectoryWalk&) = delete;
+
+  // Fewer than the 1,024 files that a process may usually have open. A tree
+  // this deep is walked without ever opening a directory twice.
+  static constexpr std::size_t kMostOpenDirectories = 960;
 
  protected:
   enum Way {

@@ -7,8 +7,10 @@
 // Looks, in this order and until a library is loaded, in
 //   - the directories of the environment variable MOZ_PLUGIN_PATH, separated
 //     by ":", empty items skipped,
-//   - the plug-in directories of the browsers, system-wide ones first,
-//   - the file that the command "locate" of the PATH finds.
+//   - the plug-in directories of the browsers, system-wide ones first
+//     (kDirectories in plugin_library.cpp),
+//   - the file that the command "locate" of the PATH finds, if TrustedFile
+//     accepts it.
 // Only the first match of each counts, whether it can be loaded or not: in a
 // directory the first entry, as the system lists them, whose name contains
 // "corvaneplayer.so"; in the command's output the first line, cut to 1023
@@ -18,8 +20,7 @@
 // A directory is read as a shell reads a word (see FirstShellWord), and a
 // relative one is searched below the current directory: "." in the variable,
 // and "~/.mozilla/plugins" where HOME is relative. A file in a directory is
-// loaded whoever owns it; a file that "locate" names only when TrustedFile
-// accepts it.
+// loaded whoever owns it.
 //
 // Null when nothing was loaded. The dynamic loader's error state is cleared
 // before each attempt, so that dlerror gives the reason of the last one.

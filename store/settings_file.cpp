@@ -27,9 +27,6 @@ constexpr int kCreateFlags =
 // How often a file that another program puts in the way is removed again.
 constexpr int kMostAttempts = 4;
 
-constexpr useconds_t kWaitMicroseconds = 5000;
-constexpr int kMostWaitsPerSecond = 20;
-
 // False with errno 0 for what can be no settings file.
 bool SizeOfRegularFile(int file, std::size_t* size) {
   struct stat info;
@@ -166,7 +163,7 @@ bool WaitForWriter() {
   }
   if (waits == kMostWaitsPerSecond) return false;
   ++waits;
-  usleep(kWaitMicroseconds);
+  usleep(kWriterMilliseconds * 1000);
   return true;
 }
 

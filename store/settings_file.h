@@ -26,7 +26,7 @@ inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 // Reads the file for reading only, without waiting for the writer of a pipe.
 // A file that is missing, empty or cut off in a directory that was changed
 // within the last second may be in the middle of being written by the plug-in:
-// it is looked at again up to three times, 5 ms apart, as long as WaitForWriter
+// it is looked at again up to kMoreLooks times, as long as WaitForWriter
 // permits.
 //
 // False when the file cannot be opened, cannot be read whole, is no regular
@@ -47,11 +47,13 @@ inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 // Whether the directory at `path` was changed within the last second, so that
 // what is missing in it may be there soon.
 [[nodiscard]] bool WasJustChanged(const SimpleString& path);
-// Gives the writer of a file 5 ms; false, at once, when the process has waited
-// for a tenth of the current second already.
+// Waits for kWriterMilliseconds; false, at once, when the process has done so
+// kMostWaitsPerSecond times in the current second of the clock.
 [[nodiscard]] bool WaitForWriter();
-// The most looks after the first.
-inline constexpr int kMoreLooks = 3;
+
+inline constexpr int kMoreLooks = 3;  // the most after the first
+inline constexpr int kWriterMilliseconds = 5;
+inline constexpr int kMostWaitsPerSecond = 20;
 
 // Replaces the file `name` in the open directory `directory`: removes it, then
 // creates a new one with these bytes, never through a link. Keeps the old file

@@ -5,8 +5,8 @@
 
 namespace SASM {
 
-// The reserved name under which the global settings are kept. Lives to the end
-// of the process.
+// "___MASTER_DOMAIN", the reserved name under which the global settings are
+// kept. Lives to the end of the process.
 [[nodiscard]] const SimpleString& MasterDomainName();
 
 // True for a name that can be a site's: not empty, not the reserved one, and

@@ -3,9 +3,10 @@
 
 #include "strings/localized_string_manager.h"
 
-// Speaks the language of the user's message locale (LC_ALL, LC_MESSAGES,
-// LANG), chosen on first use and then kept. A locale without translation here
-// gets English.
+// Speaks the language of the user's message locale: the first of LC_ALL,
+// LC_MESSAGES and LANG that is set and not empty. Chosen on first use and then
+// kept. A locale that is not installed or has no translation here gets English.
+// LANGUAGE, which gettext(3) reads, is not.
 class StringManager : public LocalizedStringManager {
  public:
   // Looks at nothing yet.

@@ -44,7 +44,7 @@ inline constexpr TextRow kCzechTexts[] = {
     {11013, "Přidat složku…"},
     {11014, "Odstranit vše"},
     {11015, "Upravit…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Blokovat"},
     {11101, "Ptát se"},
     {11102, "Povolit"},

@@ -42,7 +42,7 @@ inline constexpr TextRow kDutchTexts[] = {
     {11013, "Map toevoegen…"},
     {11014, "Alles verwijderen"},
     {11015, "Bewerken…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Blokkeren"},
     {11101, "Vragen"},
     {11102, "Toestaan"},

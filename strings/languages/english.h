@@ -24,7 +24,7 @@ inline constexpr TextRow kEnglishTexts[] = {
     {11013, "Add Folder…"},
     {11014, "Remove All"},
     {11015, "Edit…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Block"},
     {11101, "Ask me"},
     {11102, "Allow"},

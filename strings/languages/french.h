@@ -43,7 +43,7 @@ inline constexpr TextRow kFrenchTexts[] = {
     {11013, "Ajouter un dossier…"},
     {11014, "Tout enlever"},
     {11015, "Modifier…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Bloquer"},
     {11101, "Demander"},
     {11102, "Autoriser"},

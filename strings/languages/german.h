@@ -41,7 +41,7 @@ inline constexpr TextRow kGermanTexts[] = {
     {11013, "Ordner hinzufügen\u00A0…"},
     {11014, "Alle entfernen"},
     {11015, "Bearbeiten\u00A0…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Blockieren"},
     {11101, "Fragen"},
     {11102, "Zulassen"},

@@ -42,7 +42,7 @@ inline constexpr TextRow kItalianTexts[] = {
     {11013, "Aggiungi cartella…"},
     {11014, "Rimuovi tutto"},
     {11015, "Modifica…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Blocca"},
     {11101, "Chiedi"},
     {11102, "Consenti"},

@@ -46,7 +46,7 @@ inline constexpr TextRow kJapaneseTexts[] = {
     {11013, "フォルダーを追加…"},
     {11014, "すべて削除"},
     {11015, "編集…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "ブロック"},
     {11101, "毎回確認"},
     {11102, "許可"},

@@ -46,7 +46,7 @@ inline constexpr TextRow kKoreanTexts[] = {
     {11013, "폴더 추가…"},
     {11014, "모두 제거"},
     {11015, "편집…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "차단"},
     {11101, "항상 묻기"},
     {11102, "허용"},

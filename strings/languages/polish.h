@@ -44,7 +44,7 @@ inline constexpr TextRow kPolishTexts[] = {
     {11013, "Dodaj katalog…"},
     {11014, "Usuń wszystkie"},
     {11015, "Edytuj…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Blokuj"},
     {11101, "Pytaj"},
     {11102, "Zezwalaj"},

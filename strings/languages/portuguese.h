@@ -43,7 +43,7 @@ inline constexpr TextRow kPortugueseTexts[] = {
     {11013, "Adicionar pasta…"},
     {11014, "Remover tudo"},
     {11015, "Editar…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Bloquear"},
     {11101, "Perguntar"},
     {11102, "Permitir"},

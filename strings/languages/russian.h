@@ -44,7 +44,7 @@ inline constexpr TextRow kRussianTexts[] = {
     {11013, "Добавить папку…"},
     {11014, "Удалить все"},
     {11015, "Изменить…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Запретить"},
     {11101, "Спрашивать"},
     {11102, "Разрешить"},

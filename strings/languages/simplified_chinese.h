@@ -45,7 +45,7 @@ inline constexpr TextRow kSimplifiedChineseTexts[] = {
     {11013, "添加文件夹…"},
     {11014, "全部删除"},
     {11015, "编辑…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "阻止"},
     {11101, "询问"},
     {11102, "允许"},

@@ -42,7 +42,7 @@ inline constexpr TextRow kSpanishTexts[] = {
     {11013, "Añadir carpeta…"},
     {11014, "Quitar todo"},
     {11015, "Editar…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Bloquear"},
     {11101, "Preguntar"},
     {11102, "Permitir"},

@@ -42,7 +42,7 @@ inline constexpr TextRow kSwedishTexts[] = {
     {11013, "Lägg till mapp…"},
     {11014, "Ta bort alla"},
     {11015, "Redigera…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Blockera"},
     {11101, "Fråga"},
     {11102, "Tillåt"},

@@ -45,7 +45,7 @@ inline constexpr TextRow kTraditionalChineseTexts[] = {
     {11013, "加入資料夾…"},
     {11014, "全部移除"},
     {11015, "編輯…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "禁止"},
     {11101, "詢問"},
     {11102, "允許"},

@@ -44,7 +44,7 @@ inline constexpr TextRow kTurkishTexts[] = {
     {11013, "Klasör Ekle…"},
     {11014, "Tümünü Kaldır"},
     {11015, "Düzenle…"},
-    // Permissions, as choices in a list
+    // Permissions in the row of a site; 11103 is Ask as a choice
     {11100, "Engelle"},
     {11101, "Sor"},
     {11102, "İzin ver"},
