@@ -14,6 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
 // Stops the program, so that the fuzzer keeps the input, unless `holds`.
 inline void Require(bool holds, const char* claim) {
   if (holds) return;
-  std::fprintf(stderr, "Does not hold: %s\n", claim);
+  std::printf("Does not hold: %s\n", claim);
+  std::fflush(stdout);
   std::abort();
 }

@@ -1,6 +1,8 @@
 // Gives a fuzz program the files named on the command line, and those in the
 // directories named there, without libFuzzer. A name without file is no
-// failure: not every program has inputs that once failed.
+// failure: not every program has inputs that once failed. After "--damage",
+// each short file is also given in every shorter length, and with every bit
+// flipped.
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -13,11 +15,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::size_t kLongestToDamage = 256;
+
 int replayed_count = 0;
 
-void Replay(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes = (std::ostringstream() << file.rdbuf()).str();
+void Give(const std::string& bytes) {
   // A copy of exactly this size, so that a read past its end is seen.
   const auto data = std::make_unique<std::uint8_t[]>(bytes.size());
   std::copy(bytes.begin(), bytes.end(), data.get());
@@ -25,16 +27,38 @@ void Replay(const fs::path& path) {
   ++replayed_count;
 }
 
+void Damage(std::string bytes) {
+  for (std::size_t size = 0; size < bytes.size(); ++size) {
+    Give(bytes.substr(0, size));
+  }
+  for (std::size_t bit = 0; bit < bytes.size() * 8; ++bit) {
+    const char former = bytes[bit / 8];
+    bytes[bit / 8] = static_cast<char>(former ^ 1 << bit % 8);
+    Give(bytes);
+    bytes[bit / 8] = former;
+  }
+}
+
+void Replay(const fs::path& path, bool is_damaged_too) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string bytes = (std::ostringstream() << file.rdbuf()).str();
+  Give(bytes);
+  if (is_damaged_too && bytes.size() <= kLongestToDamage) Damage(bytes);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  const bool is_damaged_too = argc > 1 && argv[1] == std::string("--damage");
+  // Thousands of complaints about what is damaged; a sanitizer's still come.
+  if (is_damaged_too) stderr = std::fopen("/dev/null", "w");
   for (int i = 1; i < argc; ++i) {
     if (fs::is_directory(argv[i])) {
       for (const auto& entry : fs::directory_iterator(argv[i])) {
-        Replay(entry.path());
+        Replay(entry.path(), is_damaged_too);
       }
     } else if (fs::exists(argv[i])) {
-      Replay(argv[i]);
+      Replay(argv[i], is_damaged_too);
     }
   }
   std::printf("%d inputs replayed\n", replayed_count);

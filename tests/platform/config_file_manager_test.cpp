@@ -52,10 +52,7 @@ class ConfigFile : public testing::Test {
 
 TEST_F(ConfigFile, IsTakenApartInAllItsForms) {
   const std::string mark = "\xEF\xBB\xBF";
-  const struct {
-    std::string bytes;
-    Entries entries;
-  } cases[] = {
+  const std::pair<std::string, Entries> cases[] = {
       {"a=b=c", {{"a", "b=c"}}},
       {"\x01\t a \v=\x1F b c \x7F \f\n", {{"a", "b c \x7F"}}},
       {"=b\na=\n = \na= \n =b\nab\n\n  \n", {}},
@@ -73,9 +70,9 @@ TEST_F(ConfigFile, IsTakenApartInAllItsForms) {
       {"\xFF\xFE\na=b\n", {}},
       {"\xFF\n\na=b\n", {{"a", "b"}}},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(testing::PrintToString(c.bytes));
-    EXPECT_THAT(Read(c.bytes), UnorderedElementsAreArray(c.entries));
+  for (const auto& [bytes, entries] : cases) {
+    SCOPED_TRACE(testing::PrintToString(bytes));
+    EXPECT_THAT(Read(bytes), UnorderedElementsAreArray(entries));
   }
   for (const std::string end : {"\n", "\r", "\r\n", "\n\r", "\r\r\n"}) {
     for (const std::string& last : {end, ""s, "\r"s}) {
@@ -110,10 +107,7 @@ TEST_F(ConfigFile, WritesInDictionaryOrder) {
 }
 
 TEST_F(ConfigFile, FindsOfUnreadableTextsWhatTheHeaderSays) {
-  const struct {
-    Entries set;
-    Entries found;
-  } cases[] = {
+  const std::pair<Entries, Entries> cases[] = {
       {{{"k", "a\rb=c"}}, {{"k", "a"}, {"b", "c"}}},
       {{{"a=b\r\nk", "v"}}, {{"a", "b"}, {"k", "v"}}},
       {{{"a=b", "v"}}, {{"a", "b=v"}}},
@@ -126,9 +120,9 @@ TEST_F(ConfigFile, FindsOfUnreadableTextsWhatTheHeaderSays) {
       {{{"\xFF\xFEk", "v"}, {"h", "w"}}, {{"\xFF\xFEk", "v"}, {"h", "w"}}},
       {{{"#", "="}, {"k k", "v\tv"}}, {{"#", "="}, {"k k", "v\tv"}}},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(testing::PrintToString(c.set));
-    EXPECT_THAT(ReadBack(c.set), UnorderedElementsAreArray(c.found));
+  for (const auto& [set, found] : cases) {
+    SCOPED_TRACE(testing::PrintToString(set));
+    EXPECT_THAT(ReadBack(set), UnorderedElementsAreArray(found));
   }
 }
 

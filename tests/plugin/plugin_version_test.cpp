@@ -54,32 +54,28 @@ class PluginVersion : public testing::Test {
 
 // And a candidate that does not load hides nothing beyond its directory.
 TEST_F(PluginVersion, TellsWhatEachKindOfLibraryAnswers) {
-  const struct {
-    const char* stand_in;
-    const char* version;  // null for none
-    PluginState state;
-  } cases[] = {
+  const std::tuple<std::string, const char*, PluginState> cases[] = {
       {"good", kGood, PluginState::kInstalled},
       {"failing", nullptr, PluginState::kNoVersion},
       {"textless", nullptr, PluginState::kNoVersion},
       {"digitless", "", PluginState::kNoVersion},
       {"entryless", nullptr, PluginState::kNoVersion},
+      {"none", nullptr, PluginState::kNotInstalled},
   };
   home_.Write("text/corvaneplayer.so", "not a library");
   fs::create_directories(home_ / "directory/corvaneplayer.so");
   fs::create_directory(home_ / "pipe");
   ASSERT_EQ(mkfifo((home_ / "pipe/corvaneplayer.so").c_str(), 0600), 0);
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.stand_in);
-    Install(c.stand_in, c.stand_in + std::string("/libcorvaneplayer.so.2"));
-    Search("~/text:~/directory:~/pipe::~/missing:~/" + std::string(c.stand_in));
-    EXPECT_STREQ(get_plugin_version(), c.version);
-    const char* version = "unset";
-    EXPECT_EQ(FindPluginVersion(&version), c.state);
+  for (const auto& [stand_in, version, state] : cases) {
+    SCOPED_TRACE(stand_in);
+    if (stand_in != "none") {
+      Install(stand_in, stand_in + "/libcorvaneplayer.so.2");
+    }
+    Search("~/text:~/directory:~/pipe::~/missing:~/" + stand_in);
+    EXPECT_STREQ(get_plugin_version(), version);
+    const char* found = "unset";
+    EXPECT_EQ(FindPluginVersion(&found), state);
   }
-  Search("~/text");
-  const char* version = "unset";
-  EXPECT_EQ(FindPluginVersion(&version), PluginState::kNotInstalled);
 }
 
 TEST_F(PluginVersion, ComesFromTheFirstSourceThatLoads) {

@@ -8,11 +8,7 @@ namespace {
 int Sign(int value) { return (value > 0) - (value < 0); }
 
 TEST(NaturalOrder, PutsNumbersByValueAndDigitsAfterLetters) {
-  const struct {
-    const char* a;
-    const char* b;
-    int sign;
-  } cases[] = {
+  const std::tuple<const char*, const char*, int> cases[] = {
       {"9", "10", -1},
       {"007", "7", 0},
       {"10b", "10a", 0},
@@ -27,10 +23,10 @@ TEST(NaturalOrder, PutsNumbersByValueAndDigitsAfterLetters) {
       // Numbers are cut to 32 bits: to 1, and the largest of all to -1.
       {"2", "4294967297", +1},
       {"0", "99999999999999999999", +1}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.a) + " ? " + c.b);
-    EXPECT_EQ(Sign(CompareNaturally(c.a, c.b)), c.sign);
-    EXPECT_EQ(Sign(CompareNaturally(c.b, c.a)), -c.sign);
+  for (const auto& [a, b, sign] : cases) {
+    SCOPED_TRACE(std::string(a) + " ? " + b);
+    EXPECT_EQ(Sign(CompareNaturally(a, b)), sign);
+    EXPECT_EQ(Sign(CompareNaturally(b, a)), -sign);
   }
 }
 

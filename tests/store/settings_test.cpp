@@ -168,21 +168,6 @@ TEST_F(SiteSettings, StayWhereFewDescriptorsAreLeft) {
   }
 }
 
-TEST_F(SiteSettings, ComeBackWhenNewOnesDoNotFit) {
-  Begin({"a"});
-  const std::string long_text(4000, 'x');
-  const SASM::SimpleString text(long_text.c_str());
-  SASM::SettingDataItem item("k", SASM::kSettingsDataTypeString, &text);
-  const TemporaryHome::Snapshot before = home_.Take();
-  {
-    const LoweredLimit small_files(RLIMIT_FSIZE, 2000);
-    EXPECT_FALSE(manager_->SetSetting(&item, "k", "a"));
-    EXPECT_FALSE(manager_->SetSetting(&item, "k", "___MASTER_DOMAIN"));
-  }
-  EXPECT_EQ(home_.Take(), before);
-  EXPECT_TRUE(manager_->SetSetting(&item, "k", "a"));
-}
-
 TEST_F(MasterSettings, GoWithTheFirstLocalStorageInNaturalOrder) {
   const std::string root = std::string(TemporaryHome::kSharedObjects) + "/";
   Start();
@@ -261,25 +246,21 @@ TEST_F(SiteSettings, AreWrittenWithEveryChange) {
 }
 
 TEST_F(SiteSettings, OfANewSiteFollowTheMasterSettings) {
-  const struct {
-    Bytes master;
-    const char* always;
-    const char* limit;
-  } cases[] = {
+  const std::tuple<Bytes, const char*, const char*> cases[] = {
       {Entry("defaultklimit", Number(7)) + Entry("defaultalways", Bool(1)),
        "always=true", "klimit=7"},
       {Entry("defaultklimit", Bool(1)) + Entry("defaultalways", Number(1)),
        "always=false", "klimit=100"},
       {"", "always=false", "klimit=100"},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.limit);
+  for (const auto& [master, always, limit] : cases) {
+    SCOPED_TRACE(limit);
     fs::remove_all(home_ / TemporaryHome::kSettings);
-    WriteMaster(c.master);
+    WriteMaster(master);
     Start();
     EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("a"));
-    EXPECT_EQ(SiteOnDisk("a"), c.always + " p2pallow=false p2palways=false "s +
-                                   c.limit + " allow=false");
+    EXPECT_EQ(SiteOnDisk("a"), always + " p2pallow=false p2palways=false "s +
+                                   limit + " allow=false");
     EXPECT_EQ(Held("domains"), "domains=[a=true]");
     EXPECT_THAT(ListedOnDisk(), ElementsAre("a"));
   }

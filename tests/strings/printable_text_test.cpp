@@ -3,10 +3,7 @@
 #include <gtest/gtest.h>
 
 TEST(Printable, LeavesNothingInvisible) {
-  const struct {
-    std::string bytes;
-    const char* text;
-  } cases[] = {
+  const std::pair<std::string, const char*> cases[] = {
       {"bücher 日本 😀", "bücher 日本 😀"},
       {"a\\b", "a\\\\b"},
       {"\x1B[2J\r\n\t\x7F", "\\x1B[2J\\x0D\\x0A\\x09\\x7F"},
@@ -19,25 +16,20 @@ TEST(Printable, LeavesNothingInvisible) {
       {"\xED\xA0\x80", "\\xED\\xA0\\x80"},  // half a surrogate pair
       {"\xE6\x97", "\\xE6\\x97"},           // cut short
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    EXPECT_EQ(Printable(c.bytes), c.text);
+  for (const auto& [bytes, text] : cases) {
+    EXPECT_EQ(Printable(bytes), text);
   }
 }
 
 TEST(PrintableExcerpt, LeavesOutTheMiddle) {
   const std::string huge(65535, '\t');
-  const struct {
-    std::string bytes;
-    std::size_t longest;
-    const char* text;
-  } cases[] = {{"日本語字", 4, "日本語字"},
-               {"日本-語字", 4, "日本…語字"},
-               {"a\t\xE9z", 6, "a\\x…E9z"},
-               {"日本" + huge + "語字", 4, "日本…語字"},
-               {huge, 8, "\\x09…\\x09"}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    EXPECT_EQ(PrintableExcerpt(c.bytes, c.longest), c.text);
+  const std::tuple<std::string, std::size_t, const char*> cases[] = {
+      {"日本語字", 4, "日本語字"},
+      {"日本-語字", 4, "日本…語字"},
+      {"a\t\xE9z", 6, "a\\x…E9z"},
+      {"日本" + huge + "語字", 4, "日本…語字"},
+      {huge, 8, "\\x09…\\x09"}};
+  for (const auto& [bytes, longest, text] : cases) {
+    EXPECT_EQ(PrintableExcerpt(bytes, longest), text);
   }
 }

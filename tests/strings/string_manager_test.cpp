@@ -35,10 +35,7 @@ class Speaker : public LocalizedStringManager {
 };
 
 TEST(Language, IsChosenByTheLocaleName) {
-  const struct {
-    int language;
-    std::vector<const char*> locales;
-  } cases[] = {
+  const std::pair<int, std::vector<const char*>> cases[] = {
       {0, {nullptr, "", "C", "en_US.UTF-8", "de_DE.ISO_8859-1", "de.UTF-8"}},
       {0, {"deu_DE", "DE_de", "nb_NO.UTF-8", "_"}},
       {1, {"cs_CZ.UTF-8"}},
@@ -57,11 +54,11 @@ TEST(Language, IsChosenByTheLocaleName) {
       {14, {"zh_CN.UTF-8", "zh_SG.UTF-8", "zh", "zh_TW@stroke"}},
       {15, {"zh_HK.UTF-8", "zh_MO.UTF-8", "zh_TW", "zh_TW.Big5_X"}},
   };
-  for (const auto& c : cases) {
-    for (const char* locale : c.locales) {
+  for (const auto& [language, locales] : cases) {
+    for (const char* locale : locales) {
       SCOPED_TRACE(locale ? locale : "none");
       locale_name = locale;
-      EXPECT_EQ(StringManager().GetCurrentSystemLanguageID(), c.language);
+      EXPECT_EQ(StringManager().GetCurrentSystemLanguageID(), language);
     }
   }
 }
