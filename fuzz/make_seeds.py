@@ -101,6 +101,9 @@ HOMES = {
                     record(SITE, "a", SITE_IMAGE) +
                     record(SITE, "b", b"rejected") + record(DATA, "a", b"x") +
                     b"".join(action(n, "a") for n in range(8))),
+    "types": (record(MASTER, "", image(
+        entry("domains", BOOL, 1), entry("autoUpdateInterval", NUMBER, 1.0),
+        entry("defaultalways", BOOL, 1), LIMIT)) + action(0, "a")),
     "odd_things": (record(MASTER, "", image(sites("p", "d", "l", "f"))) +
                    record(PIPE, "p") + record(DIRECTORY, "d", b"x") +
                    record(LINK, "l") + record(LINKED_FILE, "f") +

@@ -254,9 +254,23 @@ class Faults : public StoreTest {
   }
 
   // Restores the files and starts the panel as the operation needs them.
-  void Prepare(const Operation& operation);
+  void Prepare(const Operation& operation) {
+    manager_.reset();
+    home_.Restore(operation.home == kNothing ? around_ : whole_);
+    if (operation.home == kPanel) ::Start(*this);
+  }
   // The disk, and what the panel holds when there is one.
-  State Look();
+  State Look() {
+    State state = {home_.Take(), {}};
+    if (!manager_) return state;
+    const std::vector<std::string> sites = Listed();
+    state.memory = {testing::PrintToString(sites), Held("defaultklimit")};
+    for (const char* site : {kA, kB}) {
+      const bool is_listed = std::ranges::count(sites, site) > 0;
+      state.memory.push_back(is_listed ? Held("klimit", site) : "not listed");
+    }
+    return state;
+  }
   // Runs the operation; true when the n-th call met the fault.
   bool Try(const Operation& operation, const Fault& fault, int n,
            const State& complete);
@@ -270,10 +284,25 @@ class Faults : public StoreTest {
   // Runs every operation with every fault at each of its calls.
   void TryAll(std::span<const Fault> faults);
   // All defaults and the list of sites are there.
-  void ExpectWhole();
+  void ExpectWhole() {
+    for (const auto& row : SASM::DefaultMasterSettings()) {
+      EXPECT_NE(Held(row.key), "none") << row.key;
+    }
+    EXPECT_TRUE(manager_->GetDomains());
+  }
   // A new panel is whole, a site can be added and changed, and the next start
   // finds it.
-  void ExpectUsable(const Snapshot& after);
+  void ExpectUsable(const Snapshot& after) {
+    constexpr char kLater[] = "later.example";
+    if (!known_usable_.insert(after).second) return;
+    Start();
+    ExpectWhole();
+    EXPECT_TRUE(manager_->AddDomainWithDefaultSettings(kLater));
+    EXPECT_TRUE(SetNumber("klimit", 1024, kLater));
+    Start();
+    ExpectWhole();
+    EXPECT_EQ(Held("klimit", kLater), "klimit=1024");
+  }
 
   // Where a sanitizer's messages go; the store's are dropped.
   std::FILE* const errors_ =
@@ -302,24 +331,6 @@ Faults::Faults() {
   home_.Write(std::string(TemporaryHome::kAssetCache) + "/d/asset", "asset");
   home_.Write(std::string(TemporaryHome::kLicences) + "/licence", "licence");
   whole_ = home_.Take();
-}
-
-void Faults::Prepare(const Operation& operation) {
-  manager_.reset();
-  home_.Restore(operation.home == kNothing ? around_ : whole_);
-  if (operation.home == kPanel) ::Start(*this);
-}
-
-Faults::State Faults::Look() {
-  State state = {home_.Take(), {}};
-  if (!manager_) return state;
-  const std::vector<std::string> sites = Listed();
-  state.memory = {testing::PrintToString(sites), Held("defaultklimit")};
-  for (const char* site : {kA, kB}) {
-    const bool is_listed = std::ranges::count(sites, site) > 0;
-    state.memory.push_back(is_listed ? Held("klimit", site) : "not listed");
-  }
-  return state;
 }
 
 bool Faults::Try(const Operation& operation, const Fault& fault, int n,
@@ -376,25 +387,6 @@ void Faults::CheckMemory(const Operation& operation, const State& before,
     EXPECT_TRUE(!after.contains(TemporaryHome::StorageOf(site) + "/one.sol") ||
                 after.contains(TemporaryHome::SettingsFileOf(site)));
   }
-}
-
-void Faults::ExpectWhole() {
-  for (const auto& row : SASM::DefaultMasterSettings()) {
-    EXPECT_NE(Held(row.key), "none") << row.key;
-  }
-  EXPECT_TRUE(manager_->GetDomains());
-}
-
-void Faults::ExpectUsable(const Snapshot& after) {
-  constexpr char kLater[] = "later.example";
-  if (!known_usable_.insert(after).second) return;
-  Start();
-  ExpectWhole();
-  EXPECT_TRUE(manager_->AddDomainWithDefaultSettings(kLater));
-  EXPECT_TRUE(SetNumber("klimit", 1024, kLater));
-  Start();
-  ExpectWhole();
-  EXPECT_EQ(Held("klimit", kLater), "klimit=1024");
 }
 
 // Directories on the way to what operations change.

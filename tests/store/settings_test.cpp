@@ -7,6 +7,7 @@ namespace {
 
 using namespace image;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 namespace fs = std::filesystem;
 using namespace std::string_literals;
@@ -44,19 +45,9 @@ TEST_F(MasterSettings, KeepWhatIsThereAndFillInTheRest) {
             "defaultklimit='no number'");
 }
 
-TEST_F(MasterSettings, StartWithWhateverOneByteIsMade) {
-  Begin({"a.example"});
-  const std::string whole = Master();
+TEST_F(MasterSettings, AreTheDefaultsInPlaceOfGarbage) {
+  Begin({"a"});
   testing::internal::CaptureStderr();
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    std::string flipped = whole;
-    flipped[i] = static_cast<char>(flipped[i] ^ (i % 2 ? 0xFF : 0x03));
-    home_.Write(TemporaryHome::MasterFile(), flipped);
-    Start();
-    ASSERT_NE(manager_->GetDomains(), nullptr) << i;
-    ASSERT_NE(Held("autoUpdateInterval"), "none") << i;
-    ASSERT_NE(Describe(Master()), "rejected") << i;
-  }
   for (const char* unusable : {"", "garbage"}) {
     home_.Write(TemporaryHome::MasterFile(), unusable);
     Start();
@@ -69,11 +60,6 @@ TEST_F(MasterSettings, StartWithWhateverOneByteIsMade) {
   Start();
   dup2(errors.Get(), STDERR_FILENO);
   EXPECT_EQ(Master(), DefaultMasterFile());
-  for (const Bytes& value : {Number(1), Bool(1), String("a"), Hex("07")}) {
-    WriteMaster(Entry("domains", value));
-    Start();
-    EXPECT_THAT(ListedOnDisk(), IsEmpty());
-  }
   (void)testing::internal::GetCapturedStderr();
   EXPECT_TRUE(SetNumber("domains", 1, "___MASTER_DOMAIN"));
   EXPECT_THAT(Listed(), IsEmpty()) << "lost while the panel runs";
@@ -150,21 +136,16 @@ TEST_F(MasterSettings, StayWhileTheirWriterRemovesAndRewritesThem) {
 
 TEST_F(SiteSettings, StayWhereFewDescriptorsAreLeft) {
   Begin({"a"});
-  EXPECT_TRUE(SetNumber("klimit", 0, "a"));
+  EXPECT_TRUE(SetNumber("klimit", 100, "a"));
   const FileDescriptor first_free(dup(STDIN_FILENO));
-  double stored = 0;
-  for (rlim_t few = 0; few < 6; ++few) {
+  for (int few = 0; few < 6; ++few) {
     SCOPED_TRACE(few);
-    bool is_changed = false;
     {
-      const LoweredLimit limit(RLIMIT_NOFILE,
-                               static_cast<rlim_t>(first_free.Get()) + few);
-      is_changed = SetNumber("klimit", stored + 1, "a");
+      const LoweredLimit limit(RLIMIT_NOFILE, rlim_t(first_free.Get() + few));
+      EXPECT_EQ(SetNumber("klimit", few, "a"), few > 2);
     }
-    EXPECT_EQ(is_changed, few > 2);
-    if (is_changed) ++stored;
     EXPECT_THAT(SiteOnDisk("a"),
-                testing::HasSubstr("klimit=" + std::to_string(int(stored))));
+                HasSubstr("klimit=" + std::to_string(few > 2 ? few : 100)));
   }
 }
 
@@ -214,7 +195,7 @@ TEST_F(MasterSettings, LiveInMemoryWithoutAHome) {
   EXPECT_TRUE(manager.RemoveAssetCache());
   home_in_password_database = nullptr;
   EXPECT_THAT(testing::internal::GetCapturedStderr(),
-              testing::HasSubstr("There is no home directory for \"~/"));
+              HasSubstr("There is no home directory for \"~/"));
   EXPECT_THAT(home_.List(), IsEmpty());
 }
 
@@ -271,8 +252,8 @@ TEST_F(SiteSettings, ThatAreThereStayWhenTheSiteIsAdded) {
   home_.Write(TemporaryHome::SettingsFileOf("known"),
               File("n", Entry("klimit", Number(5)) + Entry("x", Bool(1))));
   EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("known"));
-  EXPECT_THAT(SiteOnDisk("known"), testing::HasSubstr("klimit=5 "));
-  EXPECT_THAT(SiteOnDisk("known"), testing::HasSubstr(" allow=false"));
+  EXPECT_THAT(SiteOnDisk("known"), HasSubstr("klimit=5 "));
+  EXPECT_THAT(SiteOnDisk("known"), HasSubstr(" allow=false"));
 
   home_.Write(TemporaryHome::SettingsFileOf("listed"), "untouched");
   home_.Write(TemporaryHome::MasterFile(), "untouched");

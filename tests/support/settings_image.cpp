@@ -99,7 +99,8 @@ std::string Value(const SASM::SettingDataItem& item) {
       text << item.value.number;
       break;
     case SASM::kSettingsDataTypeBool:
-      return item.value.boolean ? "true" : "false";
+      text << std::boolalpha << item.value.boolean;
+      break;
     case SASM::kSettingsDataTypeString:
       text << "'" << item.value.string->c_str() << "'";
       break;
@@ -117,16 +118,13 @@ std::string Value(const SASM::SettingDataItem& item) {
 }
 
 std::string Describe(const SASM::SettingDataItem& item) {
-  return std::string(item.name.c_str()) + "=" + Value(item);
+  return item.name.c_str() + ("=" + Value(item));
 }
 
 std::string Describe(const SASM::SettingsDictionary& dictionary) {
   std::string text;
-  for (const auto& entry : dictionary) {
-    text += (text.empty() ? "" : " ") + std::string(entry.key.c_str()) + "=" +
-            Value(entry.value);
-  }
-  return text;
+  for (const auto& entry : dictionary) text += " " + Describe(entry.value);
+  return text.erase(0, 1);
 }
 
 Dictionary Read(const Bytes& file) {
