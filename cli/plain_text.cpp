@@ -20,19 +20,25 @@ std::string Decimal(double number) {
 }
 
 void TextTable::Print() const {
-  std::vector<int> widths;
+  std::vector<int> widest;
+  std::vector<int> widths;  // of all cells, row by row
   for (const Row& row : rows_) {
-    widths.resize(row.size());
+    widest.resize(row.size());
     for (std::size_t i = 0; i < row.size(); ++i) {
-      const int width = DisplayWidth(row[i]);
-      if (width <= kWidestColumn) widths[i] = std::max(widths[i], width);
+      widths.push_back(DisplayWidth(row[i]));
+      if (widths.back() > kWidestColumn) continue;
+      widest[i] = std::max(widest[i], widths.back());
     }
   }
+  auto width = widths.begin();
   for (const Row& row : rows_) {
-    for (std::size_t i = 0; i + 1 < row.size(); ++i) {
-      const int padding = std::max(widths[i] - DisplayWidth(row[i]), 0) + 2;
-      std::printf("%s%*s", row[i].c_str(), padding, "");
+    std::string line;
+    for (std::size_t i = 0; i < row.size(); ++i, ++width) {
+      line += row[i];
+      if (i + 1 == row.size()) continue;
+      const int padding = std::max(widest[i] - *width, 0) + 2;
+      line.append(static_cast<std::size_t>(padding), ' ');
     }
-    std::puts(row.back().c_str());
+    std::puts(line.c_str());
   }
 }
