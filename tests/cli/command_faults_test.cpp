@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <sstream>
 
 #include "cli/command_line.h"
 #include "cli/json.h"
@@ -15,7 +16,6 @@ namespace {
 using faults::Effect;
 using faults::Fault;
 using Snapshot = TemporaryHome::Snapshot;
-using Words = std::vector<std::string>;
 
 constexpr Fault kFaults[] = {
     {"create: read-only", faults::kCreate, Effect::kFail, EROFS},
@@ -31,16 +31,16 @@ constexpr char kDocument[] =
         "trusted_locations": ["/t"], "sites": [
           {"site": "a.example", "settings": [{"key": "klimit", "value": -1}]},
           {"site": "c.example", "settings": [{"key": "x", "value": 1}]}]})";
-const Words kCommands[] = {
-    {"set", "--all-sites", "camera=block"},
-    {"set", "--add", "storage=block", "a.example", "c.example"},
-    {"remove", "a.example", "b.example"},
-    {"trust", "/t"},
-    {"untrust", "/old"},
-    {"import", "--replace", "--delete-data", "document"},
-    {"doctor", "--relist"},
-    {"clear", "storage", "settings", "cache", "licences"},
-    {"clear", "--keep=a.example", "storage", "settings"},
+constexpr const char* kCommands[] = {
+    "set --all-sites camera=block",
+    "set --add storage=block a.example c.example",
+    "remove a.example b.example",
+    "trust /t",
+    "untrust /old",
+    "import --replace --delete-data document",
+    "doctor --relist",
+    "clear storage settings cache licences",
+    "clear --keep=a.example storage settings",
 };
 // Added to the exit status of a command that met the fault.
 constexpr int kMet = 64;
@@ -56,24 +56,25 @@ class CommandFaults : public StoreTest {
     home_.Write("document", kDocument);
     home_.Write(std::string(TemporaryHome::kAssetCache) + "/asset", "asset");
     home_.Write(std::string(TemporaryHome::kLicences) + "/licence", "licence");
-    EXPECT_EQ(Run({"trust", "/old"}, {}, 0), kSuccess);
+    EXPECT_EQ(Run("trust /old", {}, 0), kSuccess);
     before_ = home_.Take();
   }
 
   // The exit status.
-  int Run(const Words& words, const Fault& fault, int n) const;
+  int Run(const char* command, const Fault& fault, int n) const;
   // Whether the n-th call met the fault.
-  bool Try(const Words& words, const Fault& fault, int n) const;
+  bool Try(const char* command, const Fault& fault, int n) const;
 
   Snapshot before_;
   Snapshot complete_;
 };
 
-int CommandFaults::Run(const Words& words, const Fault& fault, int n) const {
+int CommandFaults::Run(const char* command, const Fault& fault, int n) const {
   const pid_t child = fork();
   if (child == 0) {
-    Words texts = words;
-    texts.insert(texts.begin(), kProgramName);
+    std::istringstream words(command);
+    std::vector<std::string> texts = {kProgramName};
+    for (std::string word; words >> word;) texts.push_back(word);
     std::vector<char*> arguments;
     for (std::string& text : texts) arguments.push_back(text.data());
     stdout = stderr = std::fopen("/dev/null", "w");
@@ -92,9 +93,9 @@ int CommandFaults::Run(const Words& words, const Fault& fault, int n) const {
   return WEXITSTATUS(status);
 }
 
-bool CommandFaults::Try(const Words& words, const Fault& fault, int n) const {
+bool CommandFaults::Try(const char* command, const Fault& fault, int n) const {
   home_.Restore(before_);
-  const int status = Run(words, fault, n);
+  const int status = Run(command, fault, n);
   const Snapshot after = home_.Take();
   for (const auto& entry : before_) {
     const std::string& path = entry.first;
@@ -104,7 +105,7 @@ bool CommandFaults::Try(const Words& words, const Fault& fault, int n) const {
         << path;
   }
   if (status % kMet == kSuccess) {
-    EXPECT_EQ(Run(words, {}, 0), kSuccess);
+    EXPECT_EQ(Run(command, {}, 0), kSuccess);
     EXPECT_TRUE(home_.Take() == after) << "it was not all done";
   } else {
     EXPECT_EQ(status, kMet + kFailure);
@@ -113,16 +114,16 @@ bool CommandFaults::Try(const Words& words, const Fault& fault, int n) const {
 }
 
 TEST_F(CommandFaults, TearNoSettingsAndAreReported) {
-  for (const Words& words : kCommands) {
+  for (const char* command : kCommands) {
     home_.Restore(before_);
-    EXPECT_EQ(Run(words, {}, 0), kSuccess);
+    EXPECT_EQ(Run(command, {}, 0), kSuccess);
     complete_ = home_.Take();
-    EXPECT_NE(complete_, before_) << testing::PrintToString(words);
+    EXPECT_NE(complete_, before_) << command;
     for (const Fault& fault : kFaults) {
       for (int n = 0; !HasFailure(); ++n) {
-        SCOPED_TRACE(testing::PrintToString(words) + fault.name + " " +
+        SCOPED_TRACE(std::string(command) + ", " + fault.name + " " +
                      std::to_string(n));
-        if (!Try(words, fault, n)) break;
+        if (!Try(command, fault, n)) break;
       }
     }
   }
