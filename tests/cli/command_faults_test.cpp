@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <iterator>
 #include <sstream>
 
 #include "cli/command_line.h"
@@ -73,9 +74,11 @@ int CommandFaults::Run(const char* command, const Fault& fault, int n) const {
   const pid_t child = fork();
   if (child == 0) {
     std::istringstream words(command);
-    std::vector<std::string> texts = {kProgramName};
-    for (std::string word; words >> word;) texts.push_back(word);
+    using Word = std::istream_iterator<std::string>;
+    std::vector<std::string> texts(Word(words), {});
+    texts.insert(texts.begin(), kProgramName);
     std::vector<char*> arguments;
+    arguments.reserve(texts.size());
     for (std::string& text : texts) arguments.push_back(text.data());
     stdout = stderr = std::fopen("/dev/null", "w");
     CommandLine line;
