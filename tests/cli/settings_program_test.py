@@ -338,10 +338,11 @@ CHANGES = [
     ("set --all-sites network=block", "all sites: network ask → block"),
     ("clear --older-than 4d storage", ""),
     ("clear --older-than 48h --keep .example storage", ""),
+    ("clear --older-than 48h --keep a.example storage", ""),
     ("clear --older-than 2d storage",
      "all sites: stored data older than 2d deleted"),
     ("set storage=block a.example", "a.example: storage 250 → block"),
-    ("remove --keep-data c=d nobody", "c=d: removed"),
+    ("remove --keep-data c=d nobody c=d", "c=d: removed"),
     ("remove d.example", "d.example: stored data deleted"),
     ("trust /t/1 /t/2 /t/1", "/t/1: trusted; /t/2: trusted"),
     ("untrust /t/1 /t/3", "/t/1: no longer trusted"),
@@ -351,7 +352,7 @@ CHANGES = [
      "all sites: network block → ask; /t/2: no longer trusted; b.example: "
      "removed; a.example: camera block → unset; a.example: p2pallow false → "
      "unset"),
-    ("clear --keep a.example settings", "e: removed"),
+    ("clear --keep a.example/x settings", "e: removed"),
     ("clear settings cache licences storage", "all sites: stored data deleted; "
      "all sites: settings removed; asset cache: deleted; licences: deleted"),
 ]
