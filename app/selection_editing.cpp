@@ -122,6 +122,15 @@ gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
 
 }  // namespace
 
+void end_editing(GtkCellEditable* editor) {
+  GtkWidget* list = gtk_widget_get_parent(GTK_WIDGET(editor));
+  if (!list) return;
+  gtk_cell_editable_editing_done(editor);
+  gtk_cell_editable_remove_widget(editor);
+  // By itself the toolkit drops a focus that is inside the editor.
+  gtk_widget_grab_focus(list);
+}
+
 void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column) {
   g_signal_connect(view, "button-press-event", G_CALLBACK(KeepSelection),
                    column);

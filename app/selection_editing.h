@@ -15,3 +15,7 @@ enum class CursorUse { kMove, kEdit };
 // what is selected.
 void set_cursor_only(GtkTreeView* view, GtkTreePath* path,
                      GtkTreeViewColumn* column, CursorUse use);
+
+// Takes over what the editor of a cell holds, if it is still open, and closes
+// it. The focus goes back to the list.
+void end_editing(GtkCellEditable* editor);

@@ -6,6 +6,7 @@
 #include "app/lists.h"
 #include "app/notebook_pages.h"
 #include "app/permission_choices.h"
+#include "app/selection_editing.h"
 #include "app/widget_helpers.h"
 #include "model/permission_changes.h"
 
@@ -120,6 +121,16 @@ void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
                                     nullptr, nullptr, renderer);
 }
 
+// By itself the toolkit leaves the closed choice in the cell, with the focus.
+void EndWithMenu(GtkCellRenderer*, GtkCellEditable* combo_box, const char*,
+                 gpointer) {
+  GList* menus = gtk_menu_get_for_attach_widget(GTK_WIDGET(combo_box));
+  if (!menus) return;  // a theme replaces the menu by a list
+  g_signal_connect_object(menus->data, "selection-done",
+                          G_CALLBACK(end_editing), combo_box,
+                          G_CONNECT_SWAPPED);
+}
+
 void CursorChanged(GnomeTCCapplet* panel, const List& list) {
   if (panel->updating) return;
   set_sensitive(panel, list.remove_button, true);
@@ -145,8 +156,11 @@ void delete_selected_domains(GnomeTCCapplet* panel, const char* tree_view_id) {
 
 void prepare_choices(GnomeTCCapplet* panel) {
   for (const List& list : kSiteLists) {
-    g_signal_connect(PermissionRenderer(panel, list), "editing-started",
-                     G_CALLBACK(MarkSharedState), panel);
+    GtkCellRenderer* renderer = PermissionRenderer(panel, list);
+    g_signal_connect(renderer, "editing-started", G_CALLBACK(MarkSharedState),
+                     panel);
+    g_signal_connect(renderer, "editing-started", G_CALLBACK(EndWithMenu),
+                     nullptr);
   }
 }
 

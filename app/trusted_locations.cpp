@@ -8,6 +8,7 @@
 #include "app/lists.h"
 #include "app/location_chooser.h"
 #include "app/notebook_pages.h"
+#include "app/selection_editing.h"
 #include "app/widget_helpers.h"
 #include "settings/setting_data_item.h"
 
@@ -55,19 +56,12 @@ std::string EditableText(const SASM::SimpleString& location) {
   return text;
 }
 
-void KeepText(GtkCellEditable* entry) {
-  const bool is_open = gtk_widget_get_parent(GTK_WIDGET(entry)) != nullptr;
-  if (!is_open) return;
-  gtk_cell_editable_editing_done(entry);
-  gtk_cell_editable_remove_widget(entry);
-}
-
 // Before the focus leaves the entry, which drops its text.
 void KeepTextOnClose(GtkCellEditable* entry, GtkWidget* next_focus,
                      GtkDialog* dialog) {
   if (next_focus && gtk_dialog_get_response_for_widget(dialog, next_focus) ==
                         GTK_RESPONSE_CLOSE) {
-    KeepText(entry);
+    end_editing(entry);
   }
 }
 
@@ -83,7 +77,7 @@ void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
   GtkWidget* dialog = get_widget(panel->builder, kList.dialog);
   g_signal_connect_object(dialog, "set-focus", G_CALLBACK(KeepTextOnClose),
                           entry, G_CONNECT_SWAPPED);
-  g_signal_connect_object(dialog, "hide", G_CALLBACK(KeepText), entry,
+  g_signal_connect_object(dialog, "hide", G_CALLBACK(end_editing), entry,
                           G_CONNECT_SWAPPED);
 }
 
