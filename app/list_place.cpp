@@ -162,9 +162,19 @@ void ListPlace::PutCursorBack() const {
   const Names names = ReadNames(gtk_tree_view_get_model(view_));
   if (names_.empty() || names.empty()) return;
   const int row = find_place(names_, row_, names);
+  PretendToShow(row);
   MoveCursor(view_, row, column_);
   MakeNextClickTheFirst(view_);
   if (is_selected_ && names.size() >= names_.size()) GoOnFromCursor(view_);
+}
+
+// The toolkit would later scroll to a cursor that is out of view.
+void ListPlace::PretendToShow(int row) const {
+  GdkRectangle area;
+  GtkTreePath* path = gtk_tree_path_new_from_indices(row, -1);
+  gtk_tree_view_get_background_area(view_, path, nullptr, &area);
+  gtk_tree_path_free(path);
+  scrolling_->value = area.y;
 }
 
 // The list's own scroll place is 0 by now, that of the scroll bar is not.

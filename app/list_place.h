@@ -25,6 +25,7 @@ class ListPlace {
   [[nodiscard]] bool HoldsFocus(GtkWidget* remove_button) const;
   void ReadCursor();
   void PutCursorBack() const;
+  void PretendToShow(int row) const;
   void ScrollBack() const;
 
   GtkTreeView* view_;
