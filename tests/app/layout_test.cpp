@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "app/dialogs.h"
+#include "app/removal_question.h"
 #include "app/widget_helpers.h"
 #include "strings/languages.h"
 #include "tests/app/panel_test.h"
@@ -87,6 +88,14 @@ class LayoutTest : public PanelTest,
     ExpectNothingClipped(window, nullptr);
   }
 
+  // The question that waits for an answer, and says no.
+  static gboolean CheckQuestion(gpointer) {
+    GtkWidget* question = gtk_grab_get_current();
+    Check(question);
+    gtk_dialog_response(GTK_DIALOG(question), GTK_RESPONSE_CANCEL);
+    return FALSE;
+  }
+
   void CheckDialog(const char* id) {
     GtkWidget* dialog = Widget(id);
     gtk_widget_show(dialog);
@@ -107,6 +116,9 @@ void LayoutTest::CheckAll() {
     Click(list.add_button);
     CheckDialog("new_site_dialog");
     CheckDialog(list.dialog);
+    Select(list.tree_view, {0, 1});
+    g_idle_add(CheckQuestion, nullptr);
+    EXPECT_FALSE(confirm_removal(panel_, list));
   }
   for (const char* id :
        {"deny_all_storage_prompt_dialog", "clear_site_data_dialog",

@@ -1,5 +1,6 @@
 // Effects of the pages that a user does not see, or not at once.
 #include "app/notebook_pages.h"
+#include "app/widget_helpers.h"
 #include "store/setting_keys.h"
 #include "tests/app/panel_test.h"
 #include "tests/support/settings_image.h"
@@ -13,6 +14,19 @@ class PagesTest : public PanelTest {
 
   bool IsUsable(const char* widget) {
     return gtk_widget_get_sensitive(Widget(widget));
+  }
+
+  // Whether the pointer is a hand over the first row of a column.
+  bool IsHandOver(const char* column) {
+    GtkTreeView* view = get_tree_view(panel_->builder, "site_storage_treeview");
+    GdkRectangle cell;
+    gtk_tree_view_get_cell_area(view, nullptr,
+                                get_column(panel_->builder, column), &cell);
+    GdkEvent motion = {.type = GDK_MOTION_NOTIFY};
+    motion.motion.window = gtk_tree_view_get_bin_window(view);
+    motion.motion.x = cell.x + 1;
+    gtk_widget_event(GTK_WIDGET(view), &motion);
+    return gdk_window_get_cursor(motion.motion.window);
   }
 };
 
@@ -53,6 +67,13 @@ TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
   Select("site_storage_treeview", {1});
   ChooseInList(kStorageList, kPermissionStateAlwaysAllow);
   EXPECT_EQ(home_.Disk(), before);
+}
+
+TEST_F(PagesTest, AHandPointsAtWhatAClickOpens) {
+  Start();
+  Click("site_storage_button");
+  EXPECT_TRUE(IsHandOver("site_storage_permission_column"));
+  EXPECT_FALSE(IsHandOver("site_storage_site_column"));
 }
 
 TEST_F(PagesTest, BlockingPeersOverridesSitesWithoutChangingThem) {

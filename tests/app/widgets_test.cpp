@@ -36,14 +36,6 @@ TEST_F(WidgetsTest, HeadingsEndInNoColon) {
   EXPECT_EQ(LabelAfter(nullptr, "b"), "Updates:");
 }
 
-TEST_F(WidgetsTest, KnowsWhatIsNoPermission) {
-  for (const int value : {0, 4, -1}) {
-    const auto state = static_cast<PermissionState>(value);
-    EXPECT_STREQ(permission_state_text(panel_, state), "Unknown");
-    EXPECT_STREQ(permission_state_icon(state), "icon_corvane_unknown");
-  }
-}
-
 TEST_F(WidgetsTest, ErrorDialogsShowWhatTheyAreGiven) {
   EXPECT_EQ(TextOf(show_error_dialog(nullptr, nullptr, nullptr, nullptr)),
             "Error");

@@ -4,7 +4,8 @@ import subprocess
 
 from gi.repository import Atspi
 from home import CACHE, LICENCE, MASTER, data_of, file_of
-from panel import MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, press
+from panel import (MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, place_of,
+                   press)
 
 ASK = "Ask me before allowing new sites to save information on this computer"
 BLOCK = "Block all sites from storing information on this computer"
@@ -24,14 +25,17 @@ class AllSitesTest(PanelTest):
             self.expect_stored(limit, "klimit", site)
         self.expect_stored(limit, "defaultklimit")
 
+    # The dialog forgets what was chosen when it was cancelled.
     def delete_all(self, sites, licences):
-        self.click("Delete All…")
-        self.see(DELETE_ALL)
-        if not sites:
-            self.click("Delete All Site Data and Settings")
-        if licences:
-            self.click("Delete All Audio and Video License Files")
-        self.click("Delete Data")
+        for answer in ("Cancel", "Delete Data"):
+            self.see(MAIN_WINDOW)
+            self.click("Delete All…")
+            self.see(DELETE_ALL)
+            if not sites:
+                self.click("Delete All Site Data and Settings")
+            if licences:
+                self.click("Delete All Audio and Video License Files")
+            self.click(answer)
 
     def test_storage_is_blocked_only_when_confirmed(self):
         self.start()
@@ -99,11 +103,13 @@ class AllSitesTest(PanelTest):
         directory.touch()
         self.start()
         self.delete_all(True, True)
-        for kind in ("local storage", "license files"):
-            start = "Corvane Player was unable to delete all " + kind
-            self.eventually(lambda: find_all(
-                Atspi.get_desktop(0),
-                lambda node: node.get_name().startswith(start)), kind)
+        shown = [self.eventually(lambda: find_all(
+            Atspi.get_desktop(0), lambda node: node.get_name().startswith(
+                "Corvane Player was unable to delete all " + kind)), kind)[0]
+                 for kind in ("local storage", "license files")]
+        # Neither window hides the other.
+        self.eventually(lambda: abs(int(place_of(shown[0])[1]) -
+                                    int(place_of(shown[1])[1])) > 99)
         for kind in ("Storage", "Protected Content"):
             self.see("Unable to Delete Files – " + kind)
             press("ctrl+w")

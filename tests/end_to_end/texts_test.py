@@ -4,6 +4,7 @@ import pathlib
 import re
 import subprocess
 
+from gi.repository import Atspi
 from home import CACHE, LICENCE, data_of
 from panel import PanelTest, find_all, is_in, press
 
@@ -110,11 +111,14 @@ class GermanTest(PanelTest):
 
     def expect_controls_that_differ(self):
         """By ear, that is, by name and description."""
-        heard = [(node.get_name(), node.get_description())
-                 for node in find_all(self.window, lambda node: (
-                     is_in(node, "FOCUSABLE") and
-                     node.get_role_name() not in SILENT))]
+        nodes = find_all(self.window, lambda node: (
+            is_in(node, "FOCUSABLE") and node.get_role_name() not in SILENT))
+        heard = [(node.get_name(), node.get_description()) for node in nodes]
         self.assertEqual(sorted(heard), sorted(set(heard)))
+        for node in nodes:
+            if seen := node.get_text_iface():
+                self.assertIn(Atspi.Text.get_text(seen, 0, -1),
+                              node.get_name())
 
     def test_every_window_shows_its_texts_and_can_be_left(self):
         self.add_sites(SITE_NAME, locations=["/srv/media"])
