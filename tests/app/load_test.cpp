@@ -96,8 +96,9 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
   }
   Select("site_storage_treeview", {0, 1, 2, 3, 4, 5});
   ChooseInList(kStorageList, kPermissionStateAlwaysDeny);
-  for (const std::string& site : sites)
+  for (const std::string& site : sites) {
     EXPECT_EQ(home_.Stored(site, "klimit"), "-1");
+  }
   Select("site_storage_treeview", {0, 1, 3});
   Click("remove_site_storage_setting_button");
   EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains),
