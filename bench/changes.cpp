@@ -70,7 +70,7 @@ void MeasureOneChange(const SiteHome& home, sqlite3* database) {
        {kFloor,
         Times(2 * kChanges,
               [&] { RewriteFile(file.c_str(), image.data(), image.size()); })},
-       {"SQLite UPDATE", Times(kChanges, [&] { Execute(database, update); })}});
+       {"SQLite", Times(kChanges, [&] { Execute(database, update); })}});
 }
 
 void MeasureBlockAll(const SiteHome& home, sqlite3* database) {
@@ -91,7 +91,7 @@ void MeasureBlockAll(const SiteHome& home, sqlite3* database) {
             unlink(site.storage.c_str());
           }
         }},
-       {"SQLite UPDATE",
+       {"SQLite",
         [&] { Execute(database, "UPDATE settings SET klimit = -1"); }}});
 }
 

@@ -1,4 +1,4 @@
 ([.[] | select(.operation)] | if length > 0 then
-  "\nOperation\tSystem calls\tAllocations\tThe calls",
+  "\nOperation\tCalls\tAllocations\tKinds of calls",
   (.[] | "\(.operation)\t\(.system_calls)\t\(.allocations)\t\(.kinds)")
 else empty end)

@@ -44,8 +44,8 @@ struct Shape {
 };
 
 constexpr Shape kShapes[] = {
-    {"of files, 100 a directory", {1000, 10000, 100000}, MakeWideTree},
-    {"of levels", {20, 200, 2000}, MakeDeepTree},
+    {"100 files a directory", {1000, 10000, 100000}, MakeWideTree},
+    {"nested", {20, 200, 2000}, MakeDeepTree},
 };
 
 void MeasureRemoval(const Shape& shape, std::size_t size,
