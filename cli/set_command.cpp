@@ -129,10 +129,13 @@ class SetCommand {
 
   void SetForSite(const SimpleString& site,
                   const std::vector<PermissionChange>& permissions) {
-    if (line_.Has(kAdd) && !store_.IsListed(site.c_str())) {
-      Set(site, permissions, Known::kAdded);
-    } else if (store_.IsKnown(site)) {
+    const bool is_listed = store_.IsListed(site.c_str());
+    const bool adds = line_.Has(kAdd);
+    if (store_.HasSettings(site) && (is_listed || !adds)) {
       Set(site, permissions, Known::kYes);
+    } else if (is_listed || adds) {
+      // The store drops a listed name without settings when it is opened.
+      Set(site, permissions, Known::kAdded);
     } else {
       unknown_.Report(site.c_str(), "; --add adds it");
       status_ = kFailure;

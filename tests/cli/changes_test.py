@@ -208,9 +208,11 @@ class ChangesTest(ProgramTest):
             ["impossible-name Up", "impossible-name b c", "missing-file gone",
              "damaged-file settings.sol", "unlisted-settings n/ew",
              "further-directory z", "unlisted-data data", "link #link"])
+        self.expect("set camera=allow gone", 0,
+                    "gone: added\ngone: camera ask → allow\n", "")
         self.put(MASTER, b"")
         changes = ["all sites: defaults again", "Up: added", "b c: added",
-                   "good: added", "n/ew: added"]
+                   "gone: added", "good: added", "n/ew: added"]
         dry = self.query("doctor --relist --dry-run", status=1)
         self.assertEqual(dry["changes"], changes)
         self.assertIn("\n".join(changes),
@@ -218,4 +220,5 @@ class ChangesTest(ProgramTest):
         self.assertEqual(
             [(site["site"], site["storage_limit_kb"])
              for site in self.query("show", 1)["sites"] if site["listed"]],
-            [("Up", 100), ("b c", 100), ("good", 100), ("n/ew", 5)])
+            [("Up", 100), ("b c", 100), ("gone", 100), ("good", 100),
+             ("n/ew", 5)])
