@@ -5,8 +5,8 @@
 #include "cli/commands.h"
 #include "cli/document.h"
 #include "cli/error_messages.h"
-#include "cli/near_names.h"
 #include "cli/store_view.h"
+#include "cli/unknown_sites.h"
 #include "platform/linux_file_manager.h"
 #include "store/setting_keys.h"
 

@@ -3,9 +3,9 @@
 #include "cli/changes.h"
 #include "cli/commands.h"
 #include "cli/error_messages.h"
-#include "cli/near_names.h"
 #include "cli/settings_edit.h"
 #include "cli/site_removal.h"
+#include "cli/unknown_sites.h"
 #include "platform/linux_file_manager.h"
 #include "strings/printable_text.h"
 

@@ -1,4 +1,4 @@
-#include "cli/near_names.h"
+#include "cli/unknown_sites.h"
 
 #include <algorithm>
 
