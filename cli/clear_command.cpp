@@ -221,8 +221,8 @@ void ClearCommand::ClearAllSettings() {
                              /*remove_settings=*/true,
                              /*remove_storage=*/false) &&
                          HoldsNoSites(directory) &&
-                         // The global settings have gone as well and are
-                         // written again; whether they are, this tells.
+                         // The removal leaves out whether the global
+                         // settings could be written again.
                          manager.SynchronizeSettingsForDomain(
                              SettingsManager::MasterDomain());
                 }});

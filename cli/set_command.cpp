@@ -84,7 +84,7 @@ constexpr Place kOneSite = {&Permission::limit_key, StoredLimitKb, StoredState,
 constexpr Place kEverywhere = {&Permission::global_key, GlobalLimitKb,
                                GlobalState, PutGlobalState};
 
-enum class Known { kYes, kAdded };
+enum class Listing { kKept, kAdded };
 
 class SetCommand {
  public:
@@ -123,7 +123,7 @@ class SetCommand {
     changes_.Add(edit.ToChange());
     if (change.is_limit || change.permission->switch_overrides_sites) return;
     for (const std::string& site : store_.ListedSitesWithSettings()) {
-      Set(site.c_str(), {change}, Known::kYes);
+      Set(site.c_str(), {change}, Listing::kKept);
     }
   }
 
@@ -132,10 +132,10 @@ class SetCommand {
     const bool is_listed = store_.IsListed(site.c_str());
     const bool adds = line_.Has(kAdd);
     if (store_.HasSettings(site) && (is_listed || !adds)) {
-      Set(site, permissions, Known::kYes);
+      Set(site, permissions, Listing::kKept);
     } else if (is_listed || adds) {
       // The store drops a listed name without settings when it is opened.
-      Set(site, permissions, Known::kAdded);
+      Set(site, permissions, Listing::kAdded);
     } else {
       unknown_.Report(site.c_str(), "; --add adds it");
       status_ = kFailure;
@@ -143,7 +143,7 @@ class SetCommand {
   }
 
   void Set(const SimpleString& site,
-           const std::vector<PermissionChange>& permissions, Known known) {
+           const std::vector<PermissionChange>& permissions, Listing listing) {
     const SimpleString file = store_.Layout().SettingsFileOf(site);
     const SettingsOnDisk on_disk = ReadSettings(file);
     if (on_disk.problem.Exists()) {
@@ -153,12 +153,12 @@ class SetCommand {
       return;
     }
     SettingsEdit edit(site, on_disk.dictionary.get());
-    if (known == Known::kAdded) edit.InsertDefaults(store_.Master());
+    if (listing == Listing::kAdded) edit.InsertDefaults(store_.Master());
     for (const auto& change : permissions) {
       Put(change, kOneSite, &edit.After());
     }
     Change change = edit.ToChange();
-    if (known == Known::kAdded) PutOnList(site, &change);
+    if (listing == Listing::kAdded) PutOnList(site, &change);
     changes_.Add(std::move(change));
     DeleteDataOfBlocked(site, permissions);
   }

@@ -8,9 +8,9 @@
 
 namespace SASM {
 
-// Ascending by bytes. Whether there is a settings file, HasSettingsFile tells.
-// A directory that is reached over a link, below the base directory, is left
-// out, as is a name that can be no site's.
+// Ascending by bytes. Some may have no settings file. A directory that is
+// reached over a link, below the base directory, is left out, as is a name that
+// can be no site's.
 [[nodiscard]] std::vector<std::string> SitesWithDirectory(
     const StoreLayout& layout);
 
