@@ -159,8 +159,9 @@ void ListPlace::ReadCursor() {
 }
 
 void ListPlace::PutCursorBack() const {
+  if (names_.empty()) return;  // there was no cursor
   const Names names = ReadNames(gtk_tree_view_get_model(view_));
-  if (names_.empty() || names.empty()) return;
+  if (names.empty()) return;
   const int row = find_place(names_, row_, names);
   PretendToShow(row);
   MoveCursor(view_, row, column_);
