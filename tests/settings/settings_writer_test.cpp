@@ -25,23 +25,10 @@ class SettingsWriter : public StoreTest {
   }
 };
 
-TEST_F(SettingsWriter, WritesTheVeryBytes) {
+TEST_F(SettingsWriter, ChoosesTheHeaderByTheLengthOfTheBody) {
   EXPECT_EQ(Image("settings"),
             Hex("00 98 54 43 53 4F 00 04 00 00 00 00 00 08 73 65 74 74 69 6E "
                 "67 73 00 00 00 00"));
-  Set({"autoUpdateDisabled", false});
-  Set({"trustedPaths", new SDIVector});
-  Set({"defaultklimit", 100.0});
-  EXPECT_EQ(
-      Image("settings"),
-      Hex("00 BF 00 00 00 5B 54 43 53 4F 00 04 00 00 00 00 00 08 73 65 74 74 "
-          "69 6E 67 73 00 00 00 00 00 12 61 75 74 6F 55 70 64 61 74 65 44 69 "
-          "73 61 62 6C 65 64 01 00 00 00 0C 74 72 75 73 74 65 64 50 61 74 68 "
-          "73 03 00 00 09 00 00 0D 64 65 66 61 75 6C 74 6B 6C 69 6D 69 74 00 "
-          "40 59 00 00 00 00 00 00 00"));
-}
-
-TEST_F(SettingsWriter, ChoosesTheHeaderByTheLengthOfTheBody) {
   EXPECT_EQ(Image(std::string(46, 'n')).substr(0, 6), Hex("00 BE") + "TCSO");
   EXPECT_EQ(Image(std::string(47, 'n')).substr(0, 10),
             Hex("00 BF 00 00 00 3F") + "TCSO");

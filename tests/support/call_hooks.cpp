@@ -96,19 +96,15 @@ extern "C" {
 #ifndef __SANITIZE_ADDRESS__
 // For operator new and for what the C library allocates itself. dlsym cannot
 // find the C library's own, since it allocates itself.
-void* __libc_malloc(std::size_t);
-void* __libc_calloc(std::size_t, std::size_t);
-void* __libc_realloc(void*, std::size_t);
+#define CAN_RUN_OUT(name, parameters, arguments)                         \
+  void* __libc_##name parameters;                                        \
+  void* name parameters {                                                \
+    return Fails(faults::kAllocate) ? nullptr : __libc_##name arguments; \
+  }
 #pragma GCC visibility push(default)
-void* malloc(std::size_t size) {
-  return Fails(faults::kAllocate) ? nullptr : __libc_malloc(size);
-}
-void* calloc(std::size_t count, std::size_t size) {
-  return Fails(faults::kAllocate) ? nullptr : __libc_calloc(count, size);
-}
-void* realloc(void* memory, std::size_t size) {
-  return Fails(faults::kAllocate) ? nullptr : __libc_realloc(memory, size);
-}
+CAN_RUN_OUT(malloc, (std::size_t size), (size))
+CAN_RUN_OUT(calloc, (std::size_t count, std::size_t size), (count, size))
+CAN_RUN_OUT(realloc, (void* memory, std::size_t size), (memory, size))
 #pragma GCC visibility pop
 #endif
 

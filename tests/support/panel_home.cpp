@@ -7,17 +7,12 @@
 
 namespace fs = std::filesystem;
 
-void PanelHome::AddSites(const Names& sites) {
-  sites_ = image::Flags(sites);
+void PanelHome::AddSites(const Names& sites, const Names& locations) const {
   for (const std::string& site : sites) {
     Write(SettingsFileOf(site), image::DefaultSiteFile(site));
   }
-  Write(MasterFile(), image::DefaultMasterFile(sites_, locations_));
-}
-
-void PanelHome::AddLocations(const Names& locations) {
-  locations_ = image::Flags(locations);
-  Write(MasterFile(), image::DefaultMasterFile(sites_, locations_));
+  Write(MasterFile(),
+        image::DefaultMasterFile(image::Flags(sites), image::Flags(locations)));
 }
 
 std::string PanelHome::AddData(const std::string& site,

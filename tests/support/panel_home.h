@@ -12,10 +12,10 @@ class PanelHome : public TemporaryHome {
  public:
   using Names = std::vector<std::string>;
 
-  // Default settings and a list of known sites that have theirs, or of trusted
-  // locations. A list takes the place of an earlier one.
-  void AddSites(const Names& sites);
-  void AddLocations(const Names& locations);
+  // Default settings with lists of known sites, which have theirs, and of
+  // trusted locations, in the place of earlier ones.
+  void AddSites(const Names& sites, const Names& locations = {}) const;
+  void AddLocations(const Names& locations) const { AddSites({}, locations); }
   // A file in the site's local storage; its name from the home.
   std::string AddData(const std::string& site, std::size_t bytes) const;
 
@@ -28,9 +28,4 @@ class PanelHome : public TemporaryHome {
   [[nodiscard]] Snapshot Disk() const;
 
   static constexpr char kMaster[] = "";
-
- private:
-  // Elements of lists.
-  std::string sites_;
-  std::string locations_;
 };
