@@ -174,15 +174,13 @@ TEST_F(Tree, NeedsLittleHoweverDeepAndWide) {
   Link("../../far/d", "d/x/a");
   Link("../../far/d", "d/x/b");
   home_.Write("d/y/two", "01");
-  constexpr unsigned int kWidth = 100;
+  constexpr unsigned int kWidth = 1000;
   for (unsigned int i = 0; i < kWidth; ++i) {
     const std::string name = "/" + std::to_string(i);
     fs::create_directories(home_ / ("targets" + name));
+    fs::create_directories(home_ / ("both" + name));
     fs::create_directories(home_ / "links");
     Link("../targets" + name, "links" + name);
-  }
-  for (int i = 0; i < 1000; ++i) {
-    fs::create_directories(home_ / ("both/" + std::to_string(i)));
   }
   for (int byte = 1; byte < 256; ++byte) {
     const std::string name = {static_cast<char>(byte), 'x'};
