@@ -260,3 +260,5 @@ class TrustedLocationsTest(PanelTest):
         self.add_folder()
         self.close()
         self.assertEqual(self.stored("trustedPaths"), 7)
+        self.assertNotIn("recently-used.xbel",
+                         os.listdir(os.environ["XDG_DATA_HOME"]))
