@@ -391,7 +391,6 @@ void Faults::CheckMemory(const Operation& operation, const State& before,
 
 // Directories on the way to what operations change.
 const std::string kPlaces[] = {
-    ".orbelline/Corvane_Player/tessary.example",
     kSettings,
     kSettings + "/#a.example",
     TemporaryHome::kSharedObjects,

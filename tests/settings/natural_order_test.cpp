@@ -1,7 +1,6 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "settings/string_vector.h"
-#include "tests/support/settings_image.h"
 
 namespace {
 
@@ -28,18 +27,6 @@ TEST(NaturalOrder, PutsNumbersByValueAndDigitsAfterLetters) {
     EXPECT_EQ(Sign(CompareNaturally(a, b)), sign);
     EXPECT_EQ(Sign(CompareNaturally(b, a)), -sign);
   }
-}
-
-TEST(NaturalOrder, SortsAListThatHasGrown) {
-  SortableStringVector list;
-  for (const SASM::SimpleString text :
-       {"a1", "10", "B", "aZ", "2", "a", "\xC3\xA4", "3", "4", "5", "6"}) {
-    list.addElement(&text);
-  }
-  list.Sort();
-  EXPECT_THAT(image::NamesOf(list),
-              testing::ElementsAre("\xC3\xA4", "a", "aZ", "a1", "B", "2", "3",
-                                   "4", "5", "6", "10"));
 }
 
 }  // namespace

@@ -156,15 +156,15 @@ TEST_F(MasterSettings, GoWithTheFirstLocalStorageInNaturalOrder) {
   EXPECT_TRUE(manager_->DeleteDomainStorage("site"));
   EXPECT_FALSE(home_.Has(root + "site")) << "there was none at the start";
   // So many that no directory lists them in this order by chance.
-  for (int i = 2; i < 30; ++i) {
-    home_.Write(root + std::to_string(i * 7919 % 30 + 2) + "/site/data", "x");
+  for (int i = 1; i < 30; ++i) {
+    const std::string name = i == 15 ? "2" : std::to_string(i * 7 % 30 + 10);
+    home_.Write(root + name + "/site/data", i == 15 ? "longer" : "x");
   }
-  home_.Write(root + "1/site/data", "longer");
   Start();
   EXPECT_EQ(manager_->SizeOfLocalStorage("site"),
-            files_.SizeOfFileAtPath((home_ / (root + "1/site")).c_str()));
+            files_.SizeOfFileAtPath((home_ / (root + "2/site")).c_str()));
   EXPECT_TRUE(manager_->DeleteDomainStorage("site"));
-  EXPECT_FALSE(home_.Has(root + "1/site"));
+  EXPECT_FALSE(home_.Has(root + "2/site"));
 }
 
 TEST_F(SiteSettings, AreReadUpToALimit) {

@@ -142,12 +142,6 @@ std::string Describe(const Bytes& file) {
   return dictionary ? Describe(*dictionary) : "rejected";
 }
 
-std::vector<std::string> NamesOf(const SASM::StringVector& list) {
-  std::vector<std::string> names;
-  for (unsigned int i = 0; i < list.count; ++i) names.push_back(list.TextAt(i));
-  return names;
-}
-
 std::vector<std::string> NamesOf(const SASM::SDIVector& list) {
   std::vector<std::string> names;
   for (unsigned int i = 0; i < list.count; ++i) {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "settings/settings_dictionary.h"
-#include "settings/string_vector.h"
 
 namespace image {
 
@@ -57,8 +56,7 @@ std::string Describe(const Bytes& file);
 using Dictionary = std::unique_ptr<SASM::SettingsDictionary>;
 Dictionary Read(const Bytes& file);
 
-// The names in a list of strings or of settings.
-std::vector<std::string> NamesOf(const SASM::StringVector& list);
+// The names in a list of settings.
 std::vector<std::string> NamesOf(const SASM::SDIVector& list);
 
 }  // namespace image
