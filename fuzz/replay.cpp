@@ -1,8 +1,8 @@
 // Gives a fuzz program the files named on the command line, and those in the
 // directories named there, without libFuzzer. A name without file is no
-// failure: not every program has inputs that once failed. After "--damage",
-// each short file is also given in every shorter length, and with every bit
-// flipped.
+// failure: not every program has inputs that once failed. After
+// "--damage=STEP", each short file is also given in every shorter length, and
+// with every STEP-th bit flipped.
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -27,11 +27,11 @@ void Give(const std::string& bytes) {
   ++replayed_count;
 }
 
-void Damage(std::string bytes) {
+void Damage(std::string bytes, std::size_t step) {
   for (std::size_t size = 0; size < bytes.size(); ++size) {
     Give(bytes.substr(0, size));
   }
-  for (std::size_t bit = 0; bit < bytes.size() * 8; ++bit) {
+  for (std::size_t bit = 0; bit < bytes.size() * 8; bit += step) {
     const char former = bytes[bit / 8];
     bytes[bit / 8] = static_cast<char>(former ^ 1 << bit % 8);
     Give(bytes);
@@ -39,26 +39,30 @@ void Damage(std::string bytes) {
   }
 }
 
-void Replay(const fs::path& path, bool is_damaged_too) {
+void Replay(const fs::path& path, std::size_t damage_step) {
   std::ifstream file(path, std::ios::binary);
   const std::string bytes = (std::ostringstream() << file.rdbuf()).str();
   Give(bytes);
-  if (is_damaged_too && bytes.size() <= kLongestToDamage) Damage(bytes);
+  if (damage_step && bytes.size() <= kLongestToDamage) {
+    Damage(bytes, damage_step);
+  }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool is_damaged_too = argc > 1 && argv[1] == std::string("--damage");
+  const std::string first = argc > 1 ? argv[1] : "";
+  const std::size_t damage_step =
+      first.starts_with("--damage=") ? std::stoul(first.substr(9)) : 0;
   // Thousands of complaints about what is damaged; a sanitizer's still come.
-  if (is_damaged_too) stderr = std::fopen("/dev/null", "w");
+  if (damage_step) stderr = std::fopen("/dev/null", "w");
   for (int i = 1; i < argc; ++i) {
     if (fs::is_directory(argv[i])) {
       for (const auto& entry : fs::directory_iterator(argv[i])) {
-        Replay(entry.path(), is_damaged_too);
+        Replay(entry.path(), damage_step);
       }
     } else if (fs::exists(argv[i])) {
-      Replay(argv[i], is_damaged_too);
+      Replay(argv[i], damage_step);
     }
   }
   std::printf("%d inputs replayed\n", replayed_count);

@@ -394,7 +394,6 @@ const std::string kPlaces[] = {
     kSettings + "/#a.example",
     TemporaryHome::kSharedObjects,
     std::string(TemporaryHome::kSharedObjects) + "/QK5SFBDP",
-    kStorage + kA,
     kStorage + kA + "/deep",
 };
 
