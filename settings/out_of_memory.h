@@ -7,7 +7,8 @@
 // jansson is given an allocator that does (cli/json.cpp).
 //
 // A change of a settings file allocates everything before it touches the file,
-// so the exit leaves the old file or the new one.
+// so the exit leaves the old file or the new one. Only when the new one cannot
+// be written is there one allocation more: that for putting the old one back.
 void ExitWhenOutOfMemory();
 
 // Prints "Out of memory." on standard error and exits with status 1. Runs no
