@@ -11,8 +11,8 @@ foreach(element object signal)
   string(REGEX MATCHALL "<${element} " elements "${text}")
   list(LENGTH elements count)
   if(NOT count EQUAL ${expected})
-    message(FATAL_ERROR "${FILE} holds ${count} times <${element}> and must "
-      "hold ${${expected}}.")
+    message(FATAL_ERROR "${FILE} has ${count} elements <${element}> and must "
+      "have ${${expected}}.")
   endif()
 endforeach()
 file(READ ${FILE} bytes HEX)
