@@ -209,6 +209,10 @@ class SettingsManager {
   void RemoveEmptyDirectoriesAbove(const SimpleString& site);
   bool RemoveAllSettings();
   bool RemoveAllLocalStorage();
+  // All entries but the one of that name. False, with errno, also when the
+  // directory cannot be listed.
+  bool RemoveEntries(const SimpleString& directory,
+                     const SimpleString& kept_name);
 
   StoreLayout mLayout;
   FileManager* mFileManager;

@@ -53,22 +53,32 @@ bool SettingsManager::RemoveAllSettingsAndOrLocalStorage(bool remove_settings,
 
 bool SettingsManager::RemoveAllSettings() {
   if (!DictionaryToChange(MasterDomain())) return false;
-  const bool removed =
-      mFileManager->RemoveFileAtPath(mLayout.SettingsDirectory());
-  // Writing creates the directory again, with the global settings in it.
+  const SimpleString& directory = mLayout.SettingsDirectory();
+  // The global settings stay until they are replaced: whatever happens before,
+  // they are not lost.
+  bool removed = RemoveEntries(directory, StoreLayout::kSettingsFileName);
+  if (!removed && (errno == ELOOP || errno == ENOTDIR)) {
+    removed = mFileManager->RemoveFileAtPath(directory);
+  }
   StoreEmptyDomains();
   SynchronizeSettingsForDomain(MasterDomain());
   return removed;
 }
 
 bool SettingsManager::RemoveAllLocalStorage() {
-  const SimpleString root = mLayout.LocalStorageRoot();
+  return RemoveEntries(mLayout.LocalStorageRoot(), "");
+}
+
+bool SettingsManager::RemoveEntries(const SimpleString& directory,
+                                    const SimpleString& kept_name) {
   errno = 0;
   const std::unique_ptr<StringVector> names(
-      mFileManager->CreateNewListOfDirectoryContents(root));
-  bool removed = errno == 0 || errno == ENOENT;
+      mFileManager->CreateNewListOfDirectoryContents(directory));
+  if (errno != 0 && errno != ENOENT) return false;
+  bool removed = true;
   for (unsigned int i = 0; i < names->count; ++i) {
-    const SimpleString entry = mLayout.Join(root, names->TextAt(i));
+    if (kept_name == names->TextAt(i)) continue;
+    const SimpleString entry = mLayout.Join(directory, names->TextAt(i));
     removed = mFileManager->RemoveFileAtPath(entry) && removed;
   }
   return removed;

@@ -150,7 +150,7 @@ const Operation kOperations[] = {
     {"delete all", kPanel, DeleteAll,
      kSettings + "/|" + kStorage + "|" + TemporaryHome::kAssetCache + "|" +
          TemporaryHome::kLicences,
-     kForgetsAtOnce | kRemovesSettings},
+     kForgetsAtOnce},
 };
 
 // Runs `body` in a child, under the programs' own handler, with the n-th call
