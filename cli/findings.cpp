@@ -64,11 +64,11 @@ class FaultSearch {
     std::unordered_map<std::string, int> counts;
     for (const std::string& site : store_.ListedSites()) {
       const int count = ++counts[site];
-      if (count == 2) AddSite("duplicate-name", site, "is listed twice");
+      if (count == 2) AddSite(kDuplicateName, site, "is listed twice");
       if (count > 1) continue;
       LookAtName(site);
       if (!HasFile(site)) {
-        AddSite("missing-file", site, "is listed and has no settings file");
+        AddSite(kMissingFile, site, "is listed and has no settings file");
       }
     }
   }
@@ -85,11 +85,12 @@ class FaultSearch {
 
   void LookAtName(const std::string& site) {
     if (const char* fault = FaultOfName(site)) {
-      AddSite("impossible-name", site, fault);
+      AddSite(kImpossibleName, site, fault);
     }
   }
 
-  // Null for a name that a web site can have.
+  // Null for a name that a browser can ask for, which is less than the store
+  // takes.
   static const char* FaultOfName(const std::string& site) {
     if (site.find("://") != site.npos || site.starts_with("http:") ||
         site.starts_with("https:")) {
@@ -124,7 +125,7 @@ class FaultSearch {
     const SimpleString root = layout_.LocalStorageRoot();
     const std::vector<std::string> directories = Listing(root);
     for (std::size_t i = 1; i < directories.size(); ++i) {
-      AddPath("further-directory",
+      AddPath(kFurtherDirectory,
               layout_.Join(root, directories[i].c_str()).c_str(),
               "is not the first one, the data of sites is elsewhere");
     }
@@ -136,7 +137,7 @@ class FaultSearch {
     }
     for (const std::string& site : Listing(layout_.LocalStorageDirectory())) {
       if (listed.contains(site)) continue;
-      AddSite("unlisted-data", site, "has stored data and is not listed");
+      AddSite(kUnlistedData, site, "has stored data and is not listed");
     }
   }
 
@@ -146,11 +147,12 @@ class FaultSearch {
     if (stat(ExpandHomeDirectory("~").c_str(), &home) != 0) return;
     for (const OddEntry& entry : FindOddEntries(directory, home.st_uid)) {
       if (entry.oddity == OddEntry::Oddity::kLink) {
-        AddPath("link", entry.path, "is a link in the place of a directory");
+        AddPath(kLinkedDirectory, entry.path,
+                "is a link in the place of a directory");
         continue;
       }
       AddPath(
-          "foreign-owner", entry.path,
+          kForeignOwner, entry.path,
           "belongs to the user with the number " + std::to_string(entry.owner));
     }
   }
