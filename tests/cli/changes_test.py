@@ -6,7 +6,7 @@ import os
 from home import (CACHE, LICENCE, MASTER, SETTINGS, SHARED_OBJECTS, data_of,
                   file_of, settings)
 from make_seeds import BOOL, NUMBER, STRING, entry, image
-from settings_program import DAMAGE, ProgramTest
+from settings_program import DAMAGE, PROGRAM, ProgramTest
 
 
 def document(members):
@@ -147,7 +147,10 @@ class ChangesTest(ProgramTest):
             self.expect("import ~/document", 2, "", problem)
         self.put("document", document('"sites": []').encode())
         self.expect("import --replace ~/document", 2, "", "global: is missing")
-        self.expect("import /dev/zero", 2, "", "larger than 64 MiB")
+        run = self.run_in_home(
+            f"head -c 67108865 /dev/zero | '{PROGRAM}' import -")
+        self.assertEqual(run.returncode, 2)
+        self.assertIn("larger than 64 MiB", run.stderr)
         self.expect("import /nonexistent", 2, "", "No such file")
         self.expect("import /", 2, "", "directory")
 
