@@ -74,6 +74,8 @@ WRONG_DOCUMENTS += [(document(members), problem) for members, problem in (
     ('"global": {}', ": global: is not an array"),
     ('"global": [{"key": "domains", "value": 1}]',
      ": global[0].key: has a member of its own"),
+    ('"global": [{"key": "trustedPaths", "value": 1}]',
+     ": global[0].key: has a member of its own"),
     ('"trusted_locations": [""]', ": trusted_locations[0]: is empty"),
     ('"sites": [{"site": "..", "settings": []}]',
      ": sites[0].site: can be no site"),
@@ -164,6 +166,7 @@ class ChangesTest(ProgramTest):
         self.run_program("export -o ~/document")
         exported = self.read("document").decode()
         self.assertRegex(exported, r"\A[\n -~]*\Z")
+        self.assertIn('"number": "-0"', exported)
         self.home /= "other"
         self.put("x")
         self.expect("import ~/../document", 0, None, "")
