@@ -2,13 +2,21 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/json.h"
 #include "settings/settings_dictionary.h"
+#include "store/setting_keys.h"
 
 inline constexpr char kDocumentFormat[] = "corvane-player-settings 1";
+
+// Keys of the global settings that are no entries of a document, which has
+// members of its own for them: "sites" and "trusted_locations".
+inline constexpr std::string_view kKeysWithOwnMember[] = {SASM::kDomains,
+                                                          SASM::kTrustedPaths};
 
 // Its names and keys are those of the store, its texts can be stored whole.
 struct Document {
@@ -39,7 +47,7 @@ inline constexpr std::size_t kLargestDocument = std::size_t{64} << 20;
 [[nodiscard]] bool ParseDocument(std::string_view text, Document* document,
                                  std::string* problem);
 
-// An array of the entries, sorted by key, without those of some keys. The
-// caller owns it.
+// An array of the entries but those with these keys, sorted by key. The caller
+// owns it.
 [[nodiscard]] json_t* NewEntries(const SASM::SettingsDictionary& settings,
-                                 const std::vector<std::string_view>& without);
+                                 std::span<const std::string_view> left_out);

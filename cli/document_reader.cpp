@@ -10,7 +10,6 @@
 
 #include "cli/document.h"
 #include "settings/settings_format.h"
-#include "store/setting_keys.h"
 #include "store/site_name.h"
 #include "strings/printable_text.h"
 
@@ -263,7 +262,7 @@ bool DocumentReader::ReadEntry(const json_t* object, bool is_global,
   std::string key;
   const auto read_key = [&](const json_t* value) {
     if (!ReadText(value, &key)) return false;
-    if (is_global && (key == SASM::kDomains || key == SASM::kTrustedPaths)) {
+    if (is_global && std::ranges::count(kKeysWithOwnMember, key) > 0) {
       return Fail("has a member of its own in the document");
     }
     return seen->insert(key).second || Fail("is there twice");

@@ -51,10 +51,10 @@ json_t* NewValue(const SettingDataItem& item) {
 }  // namespace
 
 json_t* NewEntries(const SettingsDictionary& settings,
-                   const std::vector<std::string_view>& without) {
+                   std::span<const std::string_view> left_out) {
   std::vector<const SettingsDictionary::Node*> entries;
   for (const auto& entry : settings) {
-    if (std::ranges::count(without, std::string_view(entry.key.c_str())) > 0) {
+    if (std::ranges::count(left_out, std::string_view(entry.key.c_str())) > 0) {
       continue;
     }
     entries.push_back(&entry);

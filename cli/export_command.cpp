@@ -8,7 +8,6 @@
 #include "cli/store_view.h"
 #include "cli/unknown_sites.h"
 #include "platform/linux_file_manager.h"
-#include "store/setting_keys.h"
 
 namespace {
 
@@ -24,7 +23,7 @@ class ExportCommand {
     Set(document.get(), "format", json_string(kDocumentFormat));
     if (line_.words.empty()) {
       Set(document.get(), "global",
-          NewEntries(store_.Master(), {SASM::kDomains, SASM::kTrustedPaths}));
+          NewEntries(store_.Master(), kKeysWithOwnMember));
       Set(document.get(), "trusted_locations", NewLocations());
     }
     Set(document.get(), "sites", NewSites());

@@ -1,3 +1,4 @@
+#include <span>
 #include <unordered_set>
 #include <utility>
 
@@ -8,7 +9,6 @@
 #include "cli/site_removal.h"
 #include "cli/trusted_locations.h"
 #include "platform/linux_file_manager.h"
-#include "store/setting_keys.h"
 #include "strings/printable_text.h"
 
 using SASM::SettingsDictionary;
@@ -17,12 +17,11 @@ using SASM::SimpleString;
 
 namespace {
 
-// Makes the dictionary hold the entries and, apart from two keys that are no
-// entries of a document, nothing else.
+// Removes from the dictionary what is neither an entry nor one of `kept_keys`.
 void RemoveOthers(const Document::Entries& entries,
+                  std::span<const std::string_view> kept_keys,
                   SettingsDictionary* dictionary) {
-  std::unordered_set<std::string_view> kept = {SASM::kDomains,
-                                               SASM::kTrustedPaths};
+  std::unordered_set<std::string_view> kept(kept_keys.begin(), kept_keys.end());
   for (const auto& entry : entries) kept.insert(entry.name.c_str());
   for (auto node = dictionary->begin(); node != dictionary->end();) {
     const auto next = ++SettingsDictionary::iterator(node);
@@ -49,14 +48,16 @@ class ImportCommand {
   }
 
  private:
-  void Put(const Document::Entries& entries, SettingsDictionary* dictionary) {
-    if (replaces_) RemoveOthers(entries, dictionary);
+  void Put(const Document::Entries& entries,
+           std::span<const std::string_view> kept_keys,
+           SettingsDictionary* dictionary) {
+    if (replaces_) RemoveOthers(entries, kept_keys, dictionary);
     for (const auto& entry : entries) dictionary->insert(entry.name, entry);
   }
 
   void SetGlobal(const Document::Entries& entries) {
     SettingsEdit edit(SASM::MasterDomainName(), &store_.Master());
-    Put(entries, &edit.After());
+    Put(entries, kKeysWithOwnMember, &edit.After());
     // They come back at every start.
     edit.InsertDefaults(store_.Master());
     changes_.Add(edit.ToChange());
@@ -86,7 +87,7 @@ class ImportCommand {
     SettingsEdit edit(site.name, is_new ? nullptr : on_disk.dictionary.get());
     // What is damaged may still hold other keys.
     if (is_new && replaces_) edit.ReplaceAll();
-    Put(site.settings, &edit.After());
+    Put(site.settings, {}, &edit.After());
     Change change = edit.ToChange();
     if (change.lines.empty() && !is_new) change.apply = nullptr;
     ListSite(site, is_new, &change);
