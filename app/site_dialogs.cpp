@@ -52,6 +52,16 @@ void ForEachSelectedSite(GnomeTCCapplet* panel, const char* tree_view_id,
   for_each_selected(panel, tree_view_id, function, data);
 }
 
+// Where a theme shows the choices as a list, the toolkit uses the combo box
+// once more after its choice has been handled, by which the refilled list drops
+// it.
+void KeepUntilIdle(GtkCellEditable* combo_box) {
+  if (!combo_box) return;
+  const auto done = [](gpointer) -> gboolean { return FALSE; };
+  g_idle_add_full(G_PRIORITY_DEFAULT_IDLE, done, g_object_ref(combo_box),
+                  g_object_unref);
+}
+
 // Gives every selected site the chosen state, not only the edited one.
 void SetSelected(GnomeTCCapplet* panel, const List& list,
                  GtkCellRendererCombo* renderer, GtkTreeIter* choice,
@@ -61,6 +71,8 @@ void SetSelected(GnomeTCCapplet* panel, const List& list,
   PermissionState state = get_choice_state(choices, choice);
   g_object_unref(choices);
   ChosenState chosen = {panel, &state};
+  KeepUntilIdle(
+      get_column(panel->builder, PermissionColumn(list).id)->editable_widget);
   const BusyPointer busy(panel);
   ForEachSelectedSite(panel, list.tree_view, row_callback, &chosen);
   update_notebook_page(panel, kCurrentPage);

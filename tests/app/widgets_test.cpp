@@ -58,15 +58,12 @@ TEST_F(WidgetsTest, WrappedLabelsKeepTheirFirstWidth) {
 }
 
 TEST(DomainOrder, ReadsComponentsFromTheLast) {
-  const struct {
-    const char* domain;
-    const char* reversed;
-  } cases[] = {{"shop.example.com", "com.example.shop"},
-               {"localhost", "localhost"},
-               {".a..b.", "b.a"},
-               {"...", ""},
-               {"", ""}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(reverse_domain_components(c.domain), c.reversed) << c.domain;
+  for (const auto& [domain, reversed] :
+       {std::pair("shop.example.com", "com.example.shop"),
+        {"localhost", "localhost"},
+        {".a..b.", "b.a"},
+        {"...", ""},
+        {"", ""}}) {
+    EXPECT_EQ(reverse_domain_components(domain), reversed) << domain;
   }
 }

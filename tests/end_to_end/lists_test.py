@@ -20,10 +20,10 @@ PEERS = ("playback", "Peer-assisted Networking", "Network Access", ALLOW,
 
 
 class SiteListTest(PanelTest):
-    def open(self, which, *names):
+    def open(self, which, *names, **environment):
         self.page, self.kind, self.column, self.preset, self.keys = which
         self.add_sites(*names)
-        self.start("-p " + self.page)
+        self.start("-p " + self.page, **environment)
         self.title = self.kind + " Settings by Site"
         self.click(self.title + "…")
         self.see(self.title)
@@ -144,6 +144,8 @@ class OneListTest(SiteListTest):
         self.add_sites(C, A)
         press("F5")  # reads them again
         self.expect_rows(C, A)
+        press("ctrl+a Delete")  # with the cursor where it was
+        self.see("Confirmation Needed")
 
     # A click on the permission of a selected row keeps the selection; a double
     # click opens the menu and chooses nothing, whatever is under the pointer.
@@ -169,6 +171,19 @@ class OneListTest(SiteListTest):
             self.get(BLOCK, "menu item")
             self.assertEqual(self.disk(), before)
             press("Escape")
+
+    # As some themes show them.
+    def test_a_choice_from_a_list_instead_of_a_menu(self):
+        self.put("gtkrc", b'style "list" { GtkComboBox::appears-as-list = 1 }'
+                 b'class "GtkComboBox" style "list"')
+        self.open(STORAGE, A, B, GTK2_RC_FILES=str(self.home / "gtkrc"))
+        self.select(A, B)
+        for _ in range(2):  # the second one opens the list
+            click_at(self.get(ALLOW, "table cell"))
+        self.get("Ask me for permission", "menu item", "table cell")
+        press("Home Return")
+        self.expect_state(A, BLOCK)
+        self.get(BLOCK, "table cell")
 
     def test_a_menu_opens_with_the_row_s_choice_under_the_pointer(self):
         self.open(CAMERA, A)
