@@ -128,7 +128,8 @@ class ChangesTest(ProgramTest):
             os.chown(self.home, 1234, 1234)
             for arguments in (*refused, "doctor --relist"):
                 self.expect(arguments, 1, "", "run it as that user")
-            self.assertIn("foreign-owner", self.run_program("doctor").stdout)
+            self.assertIn("settings.sol: foreign-owner",
+                          self.run_program("doctor").stdout)
 
     def test_leave_out_what_is_damaged_or_unknown(self):
         self.put(file_of("bad"), b"damaged")
@@ -147,8 +148,11 @@ class ChangesTest(ProgramTest):
         for wrong, problem in WRONG_DOCUMENTS:
             self.put("document", wrong.encode())
             self.expect("import ~/document", 2, "", problem)
-        self.put("document", document('"sites": []').encode())
-        self.expect("import --replace ~/document", 2, "", "global: is missing")
+        for members, missing in (('"sites": []', "global"), (
+                '"global": [], "sites": []', "trusted_locations")):
+            self.put("document", document(members).encode())
+            self.expect("import --replace ~/document", 2, "",
+                        missing + ": is missing")
         run = self.run_in_home(
             f"head -c 67108865 /dev/zero | '{PROGRAM}' import -")
         self.assertEqual(run.returncode, 2)
@@ -193,6 +197,11 @@ class ChangesTest(ProgramTest):
             self.expect("doctor", 1, "a: duplicate-name: is listed twice\n", "")
             self.assertEqual(self.run_program(arguments).stdout, output)
             self.expect("show --names", 0, names, "")
+        self.expect("doctor", 0, "", "")
+        self.put(data_of("b"))
+        self.put("b", document(
+            '"sites": [{"site": "b", "settings": []}]').encode())
+        self.expect("import --delete-data ~/b", 0, "b: added\n", "")
 
     def test_are_proposed_by_the_doctor(self):
         for self.home in (self.home / "missing", self.home):
