@@ -277,7 +277,8 @@ class Faults : public StoreTest {
   void CheckMemory(const Operation& operation, const State& before,
                    const State& complete, bool is_done, const Snapshot& after);
   // Runs the operation; at its n-th call the directory is exchanged for a link,
-  // or for the time of one call, without openat2. False when it is not.
+  // or for the time of one call, without openat2. False when it is not. A hard
+  // link takes the place of a settings file as soon as it is removed.
   bool TryExchange(const Operation& operation, const std::string& place, int n,
                    bool is_back);
   // Runs every operation with every fault at each of its calls.
@@ -422,6 +423,9 @@ bool Faults::TryExchange(const Operation& operation, const std::string& place,
   int calls = 0;
   int exchanges = 0;
   before_call = [&](unsigned int, const std::string&) {
+    std::error_code ignored;
+    fs::create_hard_link(home_ / ".profile",
+                         home_ / TemporaryHome::SettingsFileOf(kA), ignored);
     if (calls++ < n || exchanges > is_back) return;
     exchanges += renameat2(AT_FDCWD, (home_ / "link").c_str(), AT_FDCWD,
                            (home_ / place).c_str(), RENAME_EXCHANGE) == 0;
@@ -430,6 +434,7 @@ bool Faults::TryExchange(const Operation& operation, const std::string& place,
   (void)operation.run(*this);
   (void)faults::Disarm();
   before_call = nullptr;
+  EXPECT_EQ(home_.Read(".profile"), "another program's");
   return exchanges > 0;
 }
 
