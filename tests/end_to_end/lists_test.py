@@ -2,8 +2,8 @@
 import os
 
 from home import MASTER, data_of, file_of, settings
-from panel import (CLICK, PanelTest, click_at, is_in, place_of, press,
-                   send, write)
+from panel import (CLICK, MAIN_WINDOW, PanelTest, click_at, is_in, place_of,
+                   press, send, write)
 
 A, B, C = "a.example", "b.example", "c.example"
 BLOCK, ASK, ALLOW = "Block", "Ask me", "Allow"
@@ -211,12 +211,12 @@ class TrustedLocationsTest(PanelTest):
     def expect_locations(self, *locations):
         self.expect_stored(list(locations), "trustedPaths")
 
-    def add_folder(self):
+    def add_folder(self, folder=None):
         self.click("Add Folder…")
         self.see("Choose the trusted directory")
         self.get(self.home.name, "toggle button")
         press("alt+o")  # nothing chosen yet
-        write(self.folder)
+        write(folder or self.folder)
         press("Return")
         self.see("Trusted Location Settings")
 
@@ -241,6 +241,14 @@ class TrustedLocationsTest(PanelTest):
         write("/e")
         click_at(self.get("Close", "push button"))
         self.expect_locations("/e", self.folder, self.folder)
+        self.see(MAIN_WINDOW)
+        self.click("Trusted Location Settings…")
+        self.see("Trusted Location Settings")
+        self.add_folder(str(self.home))
+        self.expect_locations("/e", self.folder, self.folder, str(self.home))
+        self.close()
+        self.assertNotIn("recently-used.xbel",
+                         os.listdir(os.environ["XDG_DATA_HOME"]))
 
     # The rows are then in another order than the stored list.
     def test_the_row_is_meant_in_a_sorted_list(self):
@@ -275,5 +283,3 @@ class TrustedLocationsTest(PanelTest):
         self.add_folder()
         self.close()
         self.assertEqual(self.stored("trustedPaths"), 7)
-        self.assertNotIn("recently-used.xbel",
-                         os.listdir(os.environ["XDG_DATA_HOME"]))
