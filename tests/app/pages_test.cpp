@@ -1,4 +1,6 @@
 // Effects of the pages that a user does not see, or not at once.
+#include <tuple>
+
 #include "app/notebook_pages.h"
 #include "app/widget_helpers.h"
 #include "store/setting_keys.h"
@@ -80,24 +82,18 @@ TEST_F(PagesTest, BlockingPeersOverridesSitesWithoutChangingThem) {
   Start("playback");
   Select("site_p2p_treeview", {1});
   ChooseInList(kNetworkList, kPermissionStateAlwaysAllow);
-  const struct {
-    const char* choice;
-    const char* disallowed;
-    Names shown;
-  } cases[] = {
-      {"site_p2p_always_deny_rbutton", "true", {"Block", "Block"}},
-      {"site_p2p_always_ask_rbutton", "false", {"Ask me", "Allow"}},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.choice);
-    Choose(c.choice);
+  for (const auto& [choice, disallowed, shown] :
+       {std::tuple("deny", "true", Names{"Block", "Block"}),
+        {"ask", "false", {"Ask me", "Allow"}}}) {
+    SCOPED_TRACE(choice);
+    Choose(("site_p2p_always_" + std::string(choice) + "_rbutton").c_str());
     EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDisallowP2PUplink),
-              c.disallowed);
+              disallowed);
     EXPECT_EQ(home_.Stored("b.example", SASM::kP2PAlways), "true");
-    EXPECT_EQ(Column("site_p2p_list", 1), c.shown);
+    EXPECT_EQ(Column("site_p2p_list", 1), shown);
     for (const char* widget : {"add_site_p2p_setting_button",
                                "site_p2p_treeview", "site_p2p_button"}) {
-      EXPECT_EQ(IsUsable(widget), std::string(c.disallowed) == "false");
+      EXPECT_EQ(IsUsable(widget), std::string(disallowed) == "false");
     }
   }
 }
