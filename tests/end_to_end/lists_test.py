@@ -80,6 +80,11 @@ class StorageListTest(SiteListTest):
             press("Down")
             self.expect_selected(B)
         self.assertEqual(self.read(file_of(B)), before)
+        for choice in (BLOCK, ALLOW):  # then in a row that is not selected
+            press("space")
+            self.get(ALLOW, "menu item")
+            press(KEYS[choice] + " Return")
+            self.expect_state(B, choice)
 
     # By reversed name, or by permission; the order outlives a change.
     def test_selected_sites_of_a_sorted_list_are_removed(self):
