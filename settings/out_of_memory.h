@@ -2,8 +2,8 @@
 #pragma once
 
 // From here on a failed allocation ends the process as ExitOutOfMemory does.
-// This covers every form of operator new, the nothrow forms included. malloc and
-// its kin still return null: GLib and GTK+ then end the process themselves,
+// This covers every form of operator new, the nothrow forms included. malloc
+// and its kin still return null: GLib and GTK+ then end the process themselves,
 // jansson is given an allocator that does (cli/json.cpp).
 //
 // A change of a settings file allocates everything before it touches the file,

@@ -17,8 +17,8 @@ int StringManager::GetCurrentSystemLanguageID() {
 int LanguageOfLocale(const char* locale_name) {
   using namespace NCPStrings;
   const std::string_view name = locale_name ? locale_name : "en";
-  // Up to the last "_": a "_" in the codeset, as in "de_DE.ISO_8859-1", makes it
-  // no language of the table.
+  // Up to the last "_": a "_" in the codeset, as in "de_DE.ISO_8859-1", makes
+  // it no language of the table.
   const std::string_view language_code = name.substr(0, name.rfind('_'));
   const std::string_view locale_code = name.substr(0, name.find('.'));
   if (std::ranges::count(kTraditionalChineseLocales, locale_code) > 0) {
