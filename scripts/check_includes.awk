@@ -6,7 +6,9 @@
 #   `folder/`                 everything of that folder
 #   `file` from `other_file`  that file, in one other file only
 #   everything                all folders
-#   POSIX, GTK+ 2             the headers of these
+#   GTK+ 2, Jansson, libunistring
+#                             the headers of these
+#   POSIX                     all other headers that end in ".h"
 # A folder always includes its own files and the C++ library.
 
 # Leaves the names in backticks of a cell in `names`, and returns their number.
@@ -21,8 +23,10 @@ function find_names(cell, names,  count) {
 function read_row(folder, cell,  names, count, i) {
   has_row[folder] = 1
   if (cell ~ /everything/) allowed[folder, "everything"] = 1
-  if (cell ~ /POSIX/) allowed[folder, "POSIX"] = 1
-  if (cell ~ /GTK/) allowed[folder, "GTK"] = 1
+  count = split("GTK Jansson libunistring POSIX", names, " ")
+  for (i = 1; i <= count; ++i) {
+    if (index(cell, names[i])) allowed[folder, names[i]] = 1
+  }
   count = find_names(cell, names)
   for (i = 1; i <= count; ++i) {
     if (names[i] ~ /\/$/) allowed[folder, names[i]] = 1
@@ -73,9 +77,13 @@ match($0, /^[ \t]*#[ \t]*include[ \t]*["<][^">]*/) {
     group = file
     sub(/\/.*/, "/", group)
     if (group != folder) check(folder, group, file)
-  } else if (file ~ /^(atk|cairo|gdk|gio|glib|gmodule|gobject|gtk|pango)/) {
+  } else if (file ~ /^(atk|cairo|gdk|gio|glib|gmodule|gobject|gtk|libintl|pango)/) {
     check(folder, "GTK", file)
-  } else if (file ~ /^(dirent|fcntl|pwd|unistd|wordexp)\.h$|^sys\//) {
+  } else if (file == "jansson.h") {
+    check(folder, "Jansson", file)
+  } else if (file ~ /^uni(case|ctype|str|width)\.h$/) {
+    check(folder, "libunistring", file)
+  } else if (file ~ /\.h$/) {
     check(folder, "POSIX", file)
   }
 }
