@@ -24,7 +24,8 @@
 
 namespace NCPStrings {
 
-// The languages in the order of their indexes; the first is the default. A row:
+// The languages in the order of their indexes: a new one goes last. The first
+// is the default. A row:
 //   name         makes Language::kName, and kNameTexts are its texts
 //   code         the language code of a locale name that chooses it
 //   site suffix  the end of its addresses on the maker's web site

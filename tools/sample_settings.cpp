@@ -34,6 +34,10 @@ constexpr SampleSite kSites[] = {
     {"advertisements.example", 0, {kBlock, kBlock, kBlock}},
 };
 
+static_assert(std::ranges::all_of(kSites, [](const SampleSite& site) {
+  return std::ranges::count(site.states, kPermissionStateNone) == 0;
+}));
+
 constexpr const char* kTrustedLocations[] = {
     "/home/user/Projects/Planets",
     "/home/user/Lectures/2026/Introduction to Astronomy/Week 1",
