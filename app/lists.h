@@ -39,8 +39,10 @@ struct List {
   const char* store;
   const char* add_button;
   const char* remove_button;
-  // Text by which a screen reader announces the list.
-  int accessible_name_id;
+  // Text of the title of the dialog, by which a screen reader also announces
+  // the list.
+  int title_id;
+  const char* fallback;
   // Says what the list is for, and what its Remove button does.
   int explanation_id;
   // The first one shows the names, which are in kNameColumn.
@@ -60,7 +62,7 @@ inline constexpr Column kCameraColumns[] = {
      .sort_column = kNameColumn},
     {.id = "site_privacy_cam_and_mic_column",
      .content = Content::kPermission,
-     .title_id = 61001,
+     .title_id = kPermissions[kCamera].site_title_id,
      .fallback = "Camera and Mic Access",
      .text_column = 1,
      .sort_column = 2,
@@ -82,7 +84,7 @@ inline constexpr Column kStorageColumns[] = {
      .sort_column = 2},
     {.id = "site_storage_permission_column",
      .content = Content::kPermission,
-     .title_id = 61003,
+     .title_id = kPermissions[kStorage].site_title_id,
      .fallback = "Storage Permission",
      .text_column = 3,
      .sort_column = 4,
@@ -98,7 +100,7 @@ inline constexpr Column kNetworkColumns[] = {
      .sort_column = kNameColumn},
     {.id = "site_p2p_permission_column",
      .content = Content::kPermission,
-     .title_id = 61002,
+     .title_id = kPermissions[kNetwork].site_title_id,
      .fallback = "Permission",
      .text_column = 1,
      .sort_column = 2,
@@ -125,7 +127,8 @@ inline constexpr List kLists[] = {
      .store = "site_privacy_list",
      .add_button = "add_site_privacy_setting_button",
      .remove_button = "remove_site_privacy_setting_button",
-     .accessible_name_id = 61005,
+     .title_id = 61005,
+     .fallback = "Camera and Microphone Settings by Site",
      .explanation_id = 61006,
      .columns = kCameraColumns,
      .permission = &kPermissions[kCamera]},
@@ -135,7 +138,8 @@ inline constexpr List kLists[] = {
      .store = "site_storage_list",
      .add_button = "add_site_storage_setting_button",
      .remove_button = "remove_site_storage_setting_button",
-     .accessible_name_id = 61009,
+     .title_id = 61009,
+     .fallback = "Local Storage Settings by Site",
      .explanation_id = 61010,
      .columns = kStorageColumns,
      .permission = &kPermissions[kStorage]},
@@ -145,7 +149,8 @@ inline constexpr List kLists[] = {
      .store = "site_p2p_list",
      .add_button = "add_site_p2p_setting_button",
      .remove_button = "remove_site_p2p_setting_button",
-     .accessible_name_id = 61007,
+     .title_id = 61007,
+     .fallback = "Peer-assisted Networking Settings by Site",
      .explanation_id = 61008,
      .columns = kNetworkColumns,
      .permission = &kPermissions[kNetwork]},
@@ -155,7 +160,8 @@ inline constexpr List kLists[] = {
      .store = "trusted_locations",
      .add_button = "add_trusted_location_button",
      .remove_button = "remove_trusted_location_button",
-     .accessible_name_id = 81000,
+     .title_id = 81000,
+     .fallback = "Compatibility Settings",
      .explanation_id = 81001,
      .columns = kLocationColumns},
 };

@@ -23,7 +23,7 @@ constexpr char kClearsSiteData[] =
     "Clearing local storage may erase saved work, game progress, "
     "history, or preferences.";
 
-// In the order in which they get their texts; column titles come last.
+// In the order in which they get their texts; those of lists come last.
 constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"tessary_corvane_dialog", TextKind::kTitle, 11400,
      "Tessary Corvane Player Preferences"},
@@ -90,18 +90,10 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"p2p_linkbutton", TextKind::kButton, 11011, "Learn more"},
     {"drm_linkbutton", TextKind::kButton, 11011, "Learn more"},
     {"advanced_label", TextKind::kLabel, 51000, "Advanced"},
-    {"cam_and_mic_by_site_dialog", TextKind::kTitle, 61005,
-     "Camera and Microphone Settings by Site"},
-    {"add_site_privacy_setting_button", TextKind::kButton, 11005, "Add…"},
-    {"remove_site_privacy_setting_button", TextKind::kButton, 11009, "Remove"},
     {"new_site_label1", TextKind::kLabel, 91000, "Web site domain:"},
     {"new_site_label2", TextKind::kLabel, 91001,
      "Example: www.tessary.example, tessary.example"},
     {"new_site_add_button", TextKind::kButton, 11004, "Add"},
-    {"storage_by_site_dialog", TextKind::kTitle, 61009,
-     "Local Storage Settings by Site"},
-    {"add_site_storage_setting_button", TextKind::kButton, 11005, "Add…"},
-    {"remove_site_storage_setting_button", TextKind::kButton, 11009, "Remove"},
     {"deny_all_storage_prompt_dialog", TextKind::kTitle, 21100,
      "Disable Local Storage"},
     {"deny_all_storage_label", TextKind::kLabel, 21101,
@@ -128,14 +120,8 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
      "To clear all browsing history, also clear history data in your "
      "browser."},
     {"clear_site_data_button1", TextKind::kButton, 11007, "Clear Data"},
-    {"p2p_by_site_dialog", TextKind::kTitle, 61007,
-     "Peer-assisted Networking Settings by Site"},
-    {"add_site_p2p_setting_button", TextKind::kButton, 11005, "Add…"},
-    {"remove_site_p2p_setting_button", TextKind::kButton, 11009, "Remove"},
     {"reset_drm_prompt_dialog", TextKind::kTitle, 41104, "Reset License Files"},
     {"reset_drm_ok_button", TextKind::kButton, 11008, "Reset"},
-    {"compat_settings_dialog", TextKind::kTitle, 81000,
-     "Compatibility Settings"},
     {"compat_label1", TextKind::kLabel, 81001,
      "If you have problems using trusted content designed for Corvane "
      "Player 7 or earlier, add its location to use it with compatible "
@@ -143,7 +129,6 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"compat_linkbutton", TextKind::kButton, 11011, "Learn more"},
     {"add_trusted_location_button", TextKind::kButton, 11013, "Add Folder…"},
     {"add_trusted_file_button", TextKind::kButton, 11012, "Add File…"},
-    {"remove_trusted_location_button", TextKind::kButton, 11009, "Remove"},
     {"trusted_location_edit_dialog", TextKind::kTitle, 84000,
      "Edit Compatibility Location"},
     {"trusted_location_label1", TextKind::kLabel, 84001,
@@ -193,11 +178,16 @@ void Explain(GnomeTCCapplet* panel, const char* widget, int string_id) {
 }
 
 void LocalizeLists(GnomeTCCapplet* panel) {
+  for (const List& list : kSiteLists) {
+    set_button_label(panel, list.add_button, 11005, "Add…");
+  }
   for (const List& list : kLists) {
+    set_window_title(panel, list.dialog, list.title_id, list.fallback);
+    set_button_label(panel, list.remove_button, 11009, "Remove");
     for (const Column& column : list.columns) {
       set_column_title(panel, column.id, column.title_id, column.fallback);
     }
-    set_accessible_name(panel, list.tree_view, list.accessible_name_id);
+    set_accessible_name(panel, list.tree_view, list.title_id);
     Explain(panel, list.tree_view, list.explanation_id);
     Explain(panel, list.remove_button, list.explanation_id);
   }
