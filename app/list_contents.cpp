@@ -19,7 +19,7 @@ namespace {
 
 struct UsedSpace {
   std::string text;
-  guint bytes;  // the low 32 bits, by which the column is sorted
+  guint low_bytes;  // the low 32 bits, which fit the column
 };
 
 // Members without a column in the list stay unset.
@@ -127,7 +127,7 @@ SortKey KeyOf(const Row& row, Content content) {
     case Content::kSite:
       return sort_key_of_domain(row.name);
     case Content::kUsedSpace:
-      return {.number = row.used.bytes};
+      return {.number = row.used.low_bytes};
     case Content::kPermission:
       return {.number = static_cast<guint>(row.state)};
     case Content::kLocation:
@@ -181,7 +181,7 @@ void SetCells(GnomeTCCapplet* panel, const Column& column, const Row& row,
       return cells->SetText(column.text_column, row.name);
     case Content::kUsedSpace:
       cells->SetText(column.text_column, row.used.text.c_str());
-      return cells->SetUint(column.sort_column, row.used.bytes);
+      return cells->SetUint(column.sort_column, row.used.low_bytes);
     case Content::kPermission:
       cells->SetText(column.text_column,
                      permission_state_text(panel, row.state));

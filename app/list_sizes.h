@@ -4,7 +4,8 @@
 #include "app/gnome_tcc_applet.h"
 
 // Gives all rows of a list the same height, and each column a width that fits
-// its title and its contents; names share the rest. Even a long list is then
-// shown at once: otherwise the toolkit measures every row. Call this when the
-// columns have their titles. Follows later changes of the theme.
+// its title and the longest text that its kind of cell can show, or the
+// min_width of the document of windows; names share the rest. Even a long list
+// is then shown at once: otherwise the toolkit measures every row. Call this
+// when the columns have their titles. Follows later changes of the theme.
 void fix_list_sizes(GnomeTCCapplet* panel);

@@ -11,7 +11,8 @@
 enum class Content {
   kSite,        // a domain name; by its components from the last to the first
   kLocation,    // a path; as the toolkit sorts texts
-  kUsedSpace,   // the size of a site's local storage; by bytes
+  kUsedSpace,   // the size of a site's local storage; by the low 32 bits of
+                // the number of bytes, which the column holds
   kPermission,  // the state of the list's permission; by the number of the
                 // state
 };

@@ -3,7 +3,6 @@
 #include "app/busy_pointer.h"
 #include "app/list_contents.h"
 #include "app/widget_helpers.h"
-#include "store/setting_keys.h"
 
 namespace {
 
@@ -55,7 +54,7 @@ void UpdatePermissionPage(GnomeTCCapplet* panel, const List& list) {
 void UpdatePlaybackPage(GnomeTCCapplet* panel) {
   const List& list = kLists[kNetworkList];
   const bool are_blocked =
-      panel->p2p_uplink->getBoolValue(SASM::kDisallowP2PUplink);
+      panel->p2p_uplink->getBoolValue(list.permission->global_key);
   for (const char* widget :
        {list.add_button, list.tree_view, list.page_button}) {
     set_sensitive(panel, widget, !are_blocked);

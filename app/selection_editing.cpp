@@ -6,7 +6,7 @@
 namespace {
 
 // The click that opened a menu, or the last one that was ignored since.
-struct OpeningClick {
+struct PreviousClick {
   guint32 time;  // milliseconds, by the clock of the display
   double x;      // pixels on the screen
   double y;
@@ -60,7 +60,7 @@ void AllowChanges(GtkTreeSelection* selection, gboolean are_allowed) {
 }
 
 // Allows for slow and unsteady hands.
-bool IsDoubleClick(GtkWidget* widget, const OpeningClick& first,
+bool IsDoubleClick(GtkWidget* widget, const PreviousClick& first,
                    const GdkEventButton& second) {
   constexpr int kShortestTime = 600;  // milliseconds between two clicks
   constexpr double kDistance = 16;    // pixels
@@ -73,17 +73,17 @@ bool IsDoubleClick(GtkWidget* widget, const OpeningClick& first,
              kDistance;
 }
 
-OpeningClick ClickOf(const GdkEventButton& event) {
+PreviousClick ClickOf(const GdkEventButton& event) {
   return {event.time, event.x_root, event.y_root,
           event.type == GDK_BUTTON_PRESS};
 }
 
 // Hides the second click of a double click from the menu that the first click
 // opened: the menu would take it as a choice.
-gboolean IgnoreDoubleClick(GtkWidget* menu, GdkEvent* event, gpointer data) {
+gboolean HideSecondClick(GtkWidget* menu, GdkEvent* event, gpointer data) {
   const bool is_press = event->type == GDK_BUTTON_PRESS;
   if (!is_press && event->type != GDK_BUTTON_RELEASE) return FALSE;
-  auto* opening = static_cast<OpeningClick*>(data);
+  auto* opening = static_cast<PreviousClick*>(data);
   const bool ends_ignored_press = !is_press && opening->is_pressed;
   if (!ends_ignored_press && !IsDoubleClick(menu, *opening, event->button)) {
     return FALSE;
@@ -94,14 +94,16 @@ gboolean IgnoreDoubleClick(GtkWidget* menu, GdkEvent* event, gpointer data) {
 
 // Does nothing where a theme replaces the menu by a list: the list is opened by
 // a click of its own.
-void IgnoreDoubleClickOn(GtkCellEditable* combo_box,
+void HideSecondClickFrom(GtkCellEditable* combo_box,
                          const GdkEventButton& opening) {
   GList* menus = gtk_menu_get_for_attach_widget(GTK_WIDGET(combo_box));
   if (!menus) return;
   g_signal_connect_data(
-      menus->data, "event", G_CALLBACK(IgnoreDoubleClick),
-      new OpeningClick(ClickOf(opening)),
-      [](gpointer data, GClosure*) { delete static_cast<OpeningClick*>(data); },
+      menus->data, "event", G_CALLBACK(HideSecondClick),
+      new PreviousClick(ClickOf(opening)),
+      [](gpointer data, GClosure*) {
+        delete static_cast<PreviousClick*>(data);
+      },
       static_cast<GConnectFlags>(0));
 }
 
@@ -114,7 +116,7 @@ gboolean EditKeepingSelection(GtkTreeView* view, GdkEventButton* release,
   gtk_widget_grab_focus(GTK_WIDGET(view));
   set_cursor_only(view, path, edited, CursorUse::kEdit);
   if (edited->editable_widget) {
-    IgnoreDoubleClickOn(edited->editable_widget, *release);
+    HideSecondClickFrom(edited->editable_widget, *release);
   }
   gtk_tree_path_free(path);
   return TRUE;

@@ -4,9 +4,11 @@
 #include <gtk/gtk.h>
 
 // When several rows are selected, a click on this column of one of them opens
-// its combo box and keeps the selection. A double click chooses nothing. The
-// toolkit by itself does so only on the row where the selection began, and
-// drops the selection on any other.
+// its combo box and keeps the selection. The toolkit by itself does so only on
+// the row where the selection began, and drops the selection on any other. The
+// second click of a double click is hidden from the menu, where it would be a
+// choice for all of these rows. With one row selected it takes the choice that
+// the row has.
 void keep_selection_when_editing(GtkTreeView* view, GtkTreeViewColumn* column);
 
 enum class CursorUse { kMove, kEdit };

@@ -116,6 +116,8 @@ class GermanTest(PanelTest):
         heard = [(node.get_name(), node.get_description()) for node in nodes]
         self.assertEqual(sorted(heard), sorted(set(heard)))
         for node in nodes:
+            if node.get_role_name() == "radio button":
+                self.assertTrue(node.get_parent().get_name())
             if seen := node.get_text_iface():
                 self.assertIn(Atspi.Text.get_text(seen, 0, -1),
                               node.get_name())
