@@ -14,7 +14,8 @@
 [[nodiscard]] bool SetStateOfListedSites(const Permission& permission,
                                          PermissionState state);
 
-// Sets the global state and, unless it overrides them, that of every listed
-// site. A switch knows only Block; any other state counts as Ask.
+// Sets the global state, and writes it to every listed site too unless
+// Permission::switch_overrides_sites. A switch knows only Block; any other
+// state counts as Ask.
 [[nodiscard]] bool SetGlobalState(const Permission& permission,
                                   PermissionState state);

@@ -30,8 +30,9 @@ class DirectoryWalk {
   DirectoryWalk(const DirectoryWalk&) = delete;
   DirectoryWalk& operator=(const DirectoryWalk&) = delete;
 
-  // Fewer than the 1,024 files that a process may usually have open. A tree
-  // this deep is walked without ever opening a directory twice.
+  // And one more while a directory is entered. Fewer than the 1,024 files that
+  // a process may usually have open. A tree this deep is walked without ever
+  // opening a directory twice.
   static constexpr std::size_t kMostOpenDirectories = 960;
 
  protected:

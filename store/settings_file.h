@@ -61,7 +61,7 @@ inline constexpr int kMostWaitsPerSecond = 20;
 // or its descriptor. False when the bytes could not be written whole; the old
 // ones are then written back. False with nothing changed when the old file
 // could not be opened (see LeavesContentUnknown) or removed; errno then says
-// why.
+// why. settings/out_of_memory.h says what running out of memory leaves.
 [[nodiscard]] bool ReplaceFile(int directory, const char* name,
                                std::span<const unsigned char> bytes);
 

@@ -136,11 +136,11 @@ class SettingsManager {
   // failure and is false at the end.
 
   bool DeleteDomainStorage(const SimpleString& domain);
-  // The site's local storage, then its settings and its place in the list. The
-  // removal of the settings of "a/b" also removes the settings directory of
-  // "a" when it is empty then. The settings stay when the storage could not be
-  // removed. The master domain has no storage, and of its settings only the
-  // file is removed.
+  // The site's local storage, then its settings and its place in the list.
+  // With the settings of "a/b/c" go the settings directories of "a/b" and "a",
+  // up to the first that is not empty. The settings stay when the storage could
+  // not be removed. The master domain has no storage, and of its settings only
+  // the file is removed.
   bool RemoveDomainInformation(const SimpleString& domain, bool remove_settings,
                                bool remove_storage);
   // The global settings survive: they are written back from memory.
