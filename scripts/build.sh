@@ -19,6 +19,10 @@ need_writable_folder() {
 # Usage: configure DIRECTORY CMAKE_OPTION...
 configure() {
   need_writable_folder
+  if [[ $PWD == *\"* ]]; then
+    echo "CMake cannot build in a folder with a double quote in its path: $PWD" >&2
+    exit 1
+  fi
   cmake -S . -B "$1" -G Ninja "${@:2}" >/dev/null
 }
 
