@@ -51,6 +51,10 @@ bool IsNoAnswer(int error) {
 }  // namespace
 
 FileDescriptor OpenBelow(const char* trusted, const char* way) {
+  if (!*trusted) {  // or "/" would be
+    errno = ENOENT;
+    return FileDescriptor();
+  }
   // Common case: no link leads to `trusted` either.
   if (!std::strstr(way, "..")) {
     FileDescriptor reached = OpenWithoutLinks(

@@ -7,9 +7,7 @@
 // jansson is given an allocator that does (cli/json.cpp).
 //
 // A change of a settings file allocates everything before it touches the file,
-// so the exit leaves the old file or the new one. Only when the new one could
-// not be written is there one allocation more, that for putting the old one
-// back: when it fails, the file is missing or cut off.
+// so the exit leaves the old file or the new one.
 void ExitWhenOutOfMemory();
 
 // Prints "Out of memory." on standard error and exits with status 1. Runs no

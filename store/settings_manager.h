@@ -105,8 +105,8 @@ class SettingsManager {
   // result of the write.
   bool WriteOrUpdateDefaultMasterSettings();
   // The live list of the domains with settings of their own, an element each,
-  // named by the domain. It may be changed in place and then stored. Never
-  // null.
+  // named by the domain. It may be changed in place and then stored, but not as
+  // long as a ListWriteGuard lives. Never null.
   SDIVector* GetDomains();
   // Drops from the list in memory what is no site's name, and the sites
   // without a settings file.

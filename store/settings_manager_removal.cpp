@@ -2,9 +2,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/open_below.h"
 #include "store/settings_manager.h"
@@ -33,9 +35,11 @@ bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,
 }
 
 void SettingsManager::RemoveEmptyDirectoriesAbove(const SimpleString& site) {
-  for (std::string name = site.c_str(); name.find('/') != name.npos;) {
-    name.resize(name.rfind('/'));
-    const std::string way = mLayout.WayToDirectoryOf(name.c_str()).c_str();
+  if (!mLayout.IsOnDisk()) return;
+  std::string way = mLayout.WayToDirectoryOf(site).c_str();
+  const std::string_view name = site.c_str();
+  for (auto left = std::ranges::count(name, '/'); left > 0; --left) {
+    way.resize(way.rfind('/'));
     const std::size_t slash = way.rfind('/');
     const FileDescriptor holder = OpenBelow(mLayout.BaseDirectory().c_str(),
                                             way.substr(0, slash).c_str());

@@ -80,8 +80,8 @@ TEST_F(StoreRemoval, OfASiteWithSlashesLeavesNoEmptyDirectory) {
   Begin({"a"});
   std::filesystem::create_directories(
       home_ / TemporaryHome::SettingsFileOf("b/empty directory of another"));
-  for (const std::string name :
-       {"a/b/c", "b/c/d", "...", "..a", "a..", "a b", "#", "~", "a/..."}) {
+  for (const std::string name : {"a/b/c", "b/c/d", "___MASTER_DOMAIN/x", "...",
+                                 "..a", "a..", "a b", "#", "~", "a/..."}) {
     SCOPED_TRACE(name);
     const std::vector<std::string> before = home_.List();
     EXPECT_TRUE(manager_->AddDomainWithDefaultSettings(name.c_str()));
