@@ -97,8 +97,9 @@ TEST_F(LoadTest, NamesThatAreHardToShow) {
   }
   Select("site_storage_treeview", {0, 1, 3});
   Click("remove_site_storage_setting_button");
-  EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDomains),
-            "[" + sites[2] + " " + sites[4] + " " + sites[5] + "]");
+  EXPECT_EQ(
+      home_.Stored(PanelHome::kMaster, SASM::kDomains),
+      "[" + sites[2] + "=true " + sites[4] + "=true " + sites[5] + "=true]");
 }
 
 TEST_F(LoadTest, HugeNamesFitTheScreen) {
@@ -110,7 +111,7 @@ TEST_F(LoadTest, HugeNamesFitTheScreen) {
     for (int i = 0; i < 2800; ++i) name += text;
     locations.push_back(name);
   }
-  home_.AddLocations(locations);
+  home_.AddSites({}, locations);
   Start();
   g_object_set(gtk_settings_get_default(), "gtk-font-name", "Sans 40", nullptr);
   Click("compat_settings_button");

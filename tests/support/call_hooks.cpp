@@ -84,11 +84,14 @@ bool Disarm() {
 
 }  // namespace faults
 
-// A function of the C library that fails with `failure` when it must.
-#define CAN_FAIL(calls, failure, result, name, parameters, arguments) \
-  result name parameters {                                            \
-    static auto* const next = Next<result parameters>(#name);         \
-    return Fails(calls) ? failure : next arguments;                   \
+using enum faults::Call;
+
+// A function of the C library that fails with `failure` when the call that
+// follows, of which the path may be known, must fail.
+#define CAN_FAIL(result, name, parameters, arguments, failure, ...) \
+  result name parameters {                                          \
+    static auto* const next = Next<result parameters>(#name);       \
+    return Fails(__VA_ARGS__) ? failure : next arguments;           \
   }
 
 extern "C" {
@@ -96,10 +99,10 @@ extern "C" {
 #ifndef __SANITIZE_ADDRESS__
 // For operator new and for what the C library allocates itself. dlsym cannot
 // find the C library's own, since it allocates itself.
-#define CAN_RUN_OUT(name, parameters, arguments)                         \
-  void* __libc_##name parameters;                                        \
-  void* name parameters {                                                \
-    return Fails(faults::kAllocate) ? nullptr : __libc_##name arguments; \
+#define CAN_RUN_OUT(name, parameters, arguments)                 \
+  void* __libc_##name parameters;                                \
+  void* name parameters {                                        \
+    return Fails(kAllocate) ? nullptr : __libc_##name arguments; \
   }
 #pragma GCC visibility push(default)
 CAN_RUN_OUT(malloc, (std::size_t size), (size))
@@ -115,7 +118,7 @@ int openat(int directory, const char* path, int flags, ...) {
   va_end(arguments);
   static auto* next = Next<int(int, const char*, int, ...)>("openat");
   const bool creates = flags & (O_CREAT | O_TRUNC);
-  const auto call = faults::kOpen | (creates ? faults::kCreate : 0U);
+  const auto call = kOpen | (creates ? kCreate : 0U);
   return Fails(call) ? -1 : next(directory, path, flags, mode);
 }
 // The same under _FORTIFY_SOURCE, when the flags are not constant.
@@ -128,15 +131,12 @@ int __openat_2(int directory, const char* path, int flags) {
 long syscall(long number, ...) {
   va_list arguments;
   va_start(arguments, number);
-  const long first = va_arg(arguments, long);
-  const long second = va_arg(arguments, long);
-  const long third = va_arg(arguments, long);
-  const long fourth = va_arg(arguments, long);
+  long words[4];
+  for (long& word : words) word = va_arg(arguments, long);
   va_end(arguments);
   static auto* next = Next<long(long, ...)>("syscall");
-  const bool fails =
-      number == SYS_openat2 && Fails(faults::kOpen | faults::kOpenat2);
-  return fails ? -1 : next(number, first, second, third, fourth);
+  if (number == SYS_openat2 && Fails(kOpen | kOpenat2)) return -1;
+  return next(number, words[0], words[1], words[2], words[3]);
 }
 
 // What must fail halfway reads or writes half of its bytes.
@@ -152,41 +152,27 @@ long syscall(long number, ...) {
     return count;                                                           \
   }
 
-CAN_BE_SHORT(faults::kRead, read, void*)
-CAN_BE_SHORT(faults::kWrite, write, const void*)
+CAN_BE_SHORT(kRead, read, void*)
+CAN_BE_SHORT(kWrite, write, const void*)
 
 // On Linux the descriptor is closed even when the call fails.
-int close(int file) {
-  static auto* next = Next<int(int)>("close");
-  const int result = next(file);
-  return Fails(faults::kClose) ? -1 : result;
-}
-
-int unlinkat(int directory, const char* name, int flags) {
-  static auto* next = Next<int(int, const char*, int)>("unlinkat");
-  const auto call = flags & AT_REMOVEDIR ? faults::kRmdir : faults::kUnlink;
-  return Fails(call, directory, name) ? -1 : next(directory, name, flags);
-}
-
-CAN_FAIL(faults::kMkdir, -1, int, mkdirat,
-         (int directory, const char* path, mode_t mode),
-         (directory, path, mode))
-CAN_FAIL(faults::kOpendir, nullptr, DIR*, fdopendir, (int directory),
-         (directory))
-CAN_FAIL(faults::kReaddir, nullptr, dirent*, readdir, (DIR * directory),
-         (directory))
-CAN_FAIL(faults::kReaddir, -1, ssize_t, getdents64,
-         (int directory, void* buffer, std::size_t size),
-         (directory, buffer, size))
-CAN_FAIL(faults::kStat, -1, int, stat, (const char* path, struct stat* info),
-         (path, info))
-CAN_FAIL(faults::kStat, -1, int, fstat, (int file, struct stat* info),
-         (file, info))
-CAN_FAIL(faults::kStat, -1, int, fstatat,
+CAN_FAIL(int, close, (int file), (file), (next(file), -1), kClose)
+CAN_FAIL(int, unlinkat, (int directory, const char* name, int flags),
+         (directory, name, flags), -1,
+         (flags & AT_REMOVEDIR) ? kRmdir : kUnlink, directory, name)
+CAN_FAIL(int, mkdirat, (int directory, const char* path, mode_t mode),
+         (directory, path, mode), -1, kMkdir)
+CAN_FAIL(DIR*, fdopendir, (int directory), (directory), nullptr, kOpendir)
+CAN_FAIL(dirent*, readdir, (DIR * directory), (directory), nullptr, kReaddir)
+CAN_FAIL(ssize_t, getdents64, (int directory, void* buffer, std::size_t size),
+         (directory, buffer, size), -1, kReaddir)
+CAN_FAIL(int, stat, (const char* path, struct stat* info), (path, info), -1,
+         kStat)
+CAN_FAIL(int, fstat, (int file, struct stat* info), (file, info), -1, kStat)
+CAN_FAIL(int, fstatat,
          (int directory, const char* path, struct stat* info, int flags),
-         (directory, path, info, flags))
-CAN_FAIL(faults::kWait, -1, int, usleep, (useconds_t microseconds),
-         (microseconds))
+         (directory, path, info, flags), -1, kStat)
+CAN_FAIL(int, usleep, (useconds_t microseconds), (microseconds), -1, kWait)
 
 passwd* getpwuid(uid_t uid) {
   static auto* const next = Next<passwd*(uid_t)>("getpwuid");

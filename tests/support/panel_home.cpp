@@ -29,14 +29,7 @@ std::string PanelHome::Stored(const std::string& site, const char* key) const {
       Has(file) ? image::Read(Read(file)) : nullptr;
   if (!settings) return "no settings";
   const auto entry = settings->find(key);
-  if (entry == settings->end()) return "";
-  const SASM::SDIVector* list = SASM::ArrayOrNull(&entry->value);
-  if (!list) return image::Value(entry->value);
-  std::string names;
-  for (const std::string& element : image::NamesOf(*list)) {
-    names += (names.empty() ? "" : " ") + element;
-  }
-  return "[" + names + "]";
+  return entry == settings->end() ? "" : image::Value(entry->value);
 }
 
 TemporaryHome::Snapshot PanelHome::Disk() const {
