@@ -41,11 +41,12 @@ struct List {
   const char* add_button;
   const char* remove_button;
   // Text of the title of the dialog, by which a screen reader also announces
-  // the list.
+  // the list; and the text that says what the list is for and what its Remove
+  // button does.
   int title_id;
-  const char* fallback;
-  // Says what the list is for, and what its Remove button does.
   int explanation_id;
+  // Shown as the title when the table has no text.
+  const char* fallback;
   // The first one shows the names, which are in kNameColumn.
   std::span<const Column> columns;
   // Null when the rows are not sites.
@@ -129,8 +130,8 @@ inline constexpr List kLists[] = {
      .add_button = "add_site_privacy_setting_button",
      .remove_button = "remove_site_privacy_setting_button",
      .title_id = 61005,
-     .fallback = "Camera and Microphone Settings by Site",
      .explanation_id = 61006,
+     .fallback = "Camera and Microphone Settings by Site",
      .columns = kCameraColumns,
      .permission = &kPermissions[kCamera]},
     {.dialog = "storage_by_site_dialog",
@@ -140,8 +141,8 @@ inline constexpr List kLists[] = {
      .add_button = "add_site_storage_setting_button",
      .remove_button = "remove_site_storage_setting_button",
      .title_id = 61009,
-     .fallback = "Local Storage Settings by Site",
      .explanation_id = 61010,
+     .fallback = "Local Storage Settings by Site",
      .columns = kStorageColumns,
      .permission = &kPermissions[kStorage]},
     {.dialog = "p2p_by_site_dialog",
@@ -151,8 +152,8 @@ inline constexpr List kLists[] = {
      .add_button = "add_site_p2p_setting_button",
      .remove_button = "remove_site_p2p_setting_button",
      .title_id = 61007,
-     .fallback = "Peer-assisted Networking Settings by Site",
      .explanation_id = 61008,
+     .fallback = "Peer-assisted Networking Settings by Site",
      .columns = kNetworkColumns,
      .permission = &kPermissions[kNetwork]},
     {.dialog = "compat_settings_dialog",
@@ -162,8 +163,8 @@ inline constexpr List kLists[] = {
      .add_button = "add_trusted_location_button",
      .remove_button = "remove_trusted_location_button",
      .title_id = 81000,
-     .fallback = "Compatibility Settings",
      .explanation_id = 81001,
+     .fallback = "Compatibility Settings",
      .columns = kLocationColumns},
 };
 
