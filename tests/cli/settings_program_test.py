@@ -2,14 +2,15 @@
 import contextlib
 import json
 import os
+import shlex
 import unittest
 
 from home import (CACHE, LICENCE, MASTER, SETTINGS, SHARED_OBJECTS, HomeTest,
                   data_of, file_of, settings)
 from make_seeds import BOOL, NUMBER, STRING, entry, image, text
 
-PROGRAM = os.environ["PROGRAM"]
-STAND_INS = os.environ["STAND_INS"]
+PROGRAM = shlex.quote(os.environ["PROGRAM"])
+STAND_INS = shlex.quote(os.environ["STAND_INS"])
 DAMAGE = "byte 2: The record type is not 2."
 READING = ("show", "inspect", "export", "doctor")
 
@@ -19,7 +20,7 @@ class ProgramTest(HomeTest):
 
     def run_program(self, arguments):
         # Without PATH no plug-in of this computer is found.
-        return self.run_in_home(f"'{PROGRAM}' {arguments}", MOZ_PLUGIN_PATH="~",
+        return self.run_in_home(f"{PROGRAM} {arguments}", MOZ_PLUGIN_PATH="~",
                                 LC_ALL=self.language, PATH="/nonexistent")
 
     def query(self, arguments, status=0):
@@ -99,7 +100,7 @@ class CommandLineTest(ProgramTest):
                 ("none", "{} is not{}"), ("good.so", "{} 10.1 r53 is{}"),
                 ("failing.so", "Unable to determine the version of {}{}")):
             self.run_in_home(
-                f"ln -sf '{STAND_INS}/{stand_in}' ~/libcorvaneplayer.so")
+                f"ln -sf {STAND_INS}/{stand_in} ~/libcorvaneplayer.so")
             self.expect("version", 0, "corvane-player-settings 1.0.0\n" +
                         answer.format("Tessary Corvane Player",
                                       " installed on this computer.\n"), "")
@@ -109,7 +110,7 @@ class CommandLineTest(ProgramTest):
     def test_ends_with_one_line_when_memory_runs_out(self):
         self.put(MASTER)
         os.truncate(self.home / MASTER, 60 << 20)
-        run = self.run_in_home(f"ulimit -v 50000; '{PROGRAM}' show")
+        run = self.run_in_home(f"ulimit -v 50000; {PROGRAM} show")
         self.assertEqual((run.returncode, run.stderr), (1, "Out of memory.\n"))
 
 
@@ -417,7 +418,7 @@ class ChangesTest(ProgramTest):
             options = "--replace " * (wrong[0] == "R")
             self.expect(f"import {options}~/document", 2, "", problem)
         self.expect(  # what a pipe holds is not known before
-            f"version|/usr/bin/head -c 67108865 /dev/zero|'{PROGRAM}' import -",
+            f"version|/usr/bin/head -c 67108865 /dev/zero|{PROGRAM} import -",
             2, "", "larger than 64 MiB")
         self.expect("import /nonexistent", 2, "", "No such file")
         self.expect("import /", 2, "", "directory")
