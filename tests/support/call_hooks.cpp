@@ -96,7 +96,7 @@ using enum faults::Call;
 
 extern "C" {
 
-#ifndef __SANITIZE_ADDRESS__
+#if !SANITIZED
 // For operator new and for what the C library allocates itself. dlsym cannot
 // find the C library's own, since it allocates itself.
 #define CAN_RUN_OUT(name, parameters, arguments)                 \

@@ -56,11 +56,7 @@ struct Fault {
 };
 
 // A sanitizer brings its own allocator.
-#ifdef __SANITIZE_ADDRESS__
-inline constexpr bool kAllocationsCanFail = false;
-#else
-inline constexpr bool kAllocationsCanFail = true;
-#endif
+inline constexpr bool kAllocationsCanFail = SANITIZED == 0;
 
 // The n-th call among those of the fault, from 0, meets it. Replaces the fault
 // that was armed before.
