@@ -160,8 +160,9 @@ void ClearCommand::ClearStorage() {
 std::vector<std::string> ClearCommand::SitesWithData() {
   const SimpleString directory = store_.Layout().LocalStorageDirectory();
   std::vector<std::string> sites;
-  if (!ListDirectory(directory, &sites)) {
-    PrintError(directory.c_str(), std::strerror(errno));
+  const int error = store_.Layout().ListingError();
+  if (error != 0 || !ListDirectory(directory, &sites)) {
+    PrintError(directory.c_str(), std::strerror(error ? error : errno));
     status_ = kFailure;
   }
   std::erase_if(sites, [this](const std::string& site) {

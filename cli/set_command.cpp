@@ -122,7 +122,7 @@ class SetCommand {
     Put(change, kEverywhere, &edit.After());
     changes_.Add(edit.ToChange());
     if (change.is_limit || change.permission->switch_overrides_sites) return;
-    for (const std::string& site : store_.ListedSitesWithSettings()) {
+    for (const std::string& site : store_.ListedSites()) {
       Set(site.c_str(), {change}, Listing::kKept);
     }
   }
@@ -152,6 +152,7 @@ class SetCommand {
       status_ = kFailure;
       return;
     }
+    if (on_disk.is_missing && listing == Listing::kKept) return;
     SettingsEdit edit(site, on_disk.dictionary.get());
     if (listing == Listing::kAdded) edit.InsertDefaults(store_.Master());
     for (const auto& change : permissions) {

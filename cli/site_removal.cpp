@@ -20,7 +20,7 @@ bool IsThere(const SimpleString& path) {
 Change DeletionOfData(const SimpleString& site, const StoreView& store) {
   Change change = {site.c_str(), {}, {}};
   const SimpleString directory = store.Layout().LocalStorageOf(site);
-  if (!IsThere(directory)) return change;
+  if (store.Layout().ListingError() == 0 && !IsThere(directory)) return change;
   change.lines.push_back(Printable(site.c_str()) + ": stored data deleted");
   change.apply = [site, directory](SettingsManager& manager) {
     // A directory that cannot be opened is left, without a failure.

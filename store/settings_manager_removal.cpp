@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +18,10 @@ namespace SASM {
 
 bool SettingsManager::DeleteDomainStorage(const SimpleString& domain) {
   if (!IsSiteName(domain)) return false;
+  if (const int error = mLayout.ListingError()) {
+    std::fprintf(stderr, "DeleteDomainStorage: %s\n", std::strerror(error));
+    return false;
+  }
   return mFileManager->RemoveFileAtPath(mLayout.LocalStorageOf(domain));
 }
 

@@ -1,5 +1,6 @@
 #include "store/store_layout.h"
 
+#include <cerrno>
 #include <memory>
 
 namespace SASM {
@@ -21,8 +22,10 @@ StoreLayout::StoreLayout(const FileManager* file_manager)
       mBaseDirectory(file_manager->GetUserSettingsBaseDirectory()),
       mSettingsDirectory(Join(mBaseDirectory, kSettingsPath)),
       mSharedObjectsDirectory(LocalStorageRoot()) {
+  errno = 0;
   const std::unique_ptr<StringVector> names(
       mFileManager->CreateNewListOfDirectoryContents(mSharedObjectsDirectory));
+  if (errno != ENOENT && errno != ENOTDIR) mListingError = errno;
   if (names->count > 0) {
     mSharedObjectsDirectory = Join(mSharedObjectsDirectory, names->TextAt(0));
   }

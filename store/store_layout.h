@@ -44,6 +44,9 @@ class StoreLayout {
     return mSharedObjectsDirectory;
   }
   [[nodiscard]] SimpleString LocalStorageOf(const SimpleString& site) const;
+  // The error number if it could not be listed: where sites store data is then
+  // unknown. 0 also when it does not exist.
+  [[nodiscard]] int ListingError() const { return mListingError; }
 
   // `directory`, the separator, `name`; empty when one of them is.
   [[nodiscard]] SimpleString Join(const SimpleString& directory,
@@ -57,6 +60,7 @@ class StoreLayout {
   SimpleString mBaseDirectory;
   SimpleString mSettingsDirectory;
   SimpleString mSharedObjectsDirectory;
+  int mListingError = 0;
 };
 
 }  // namespace SASM
