@@ -7,6 +7,7 @@
 
 #include "app/widget_helpers.h"
 #include "strings/placeholder.h"
+#include "strings/text_ids.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ bool parse_command_line(GnomeTCCapplet* panel, int* argc, char*** argv,
       {}};
   const std::string usage =
       std::string("- ") +
-      text_or(panel, 11400, "Tessary Corvane Player settings");
+      text_or(panel, kPanelTitleId, "Tessary Corvane Player settings");
   GOptionContext* context = g_option_context_new(usage.c_str());
   g_option_context_add_main_entries(context, options, kTextDomain);
   bind_textdomain_codeset(kTextDomain, "UTF-8");

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "model/permissions.h"
+#include "strings/text_ids.h"
 
 // What the cells of a column show, and what their rows are sorted by.
 enum class Content {
@@ -58,7 +59,7 @@ constexpr int kNameColumn = 0;
 inline constexpr Column kCameraColumns[] = {
     {.id = "site_privacy_site_column",
      .content = Content::kSite,
-     .title_id = 61000,
+     .title_id = kSiteColumnTitleId,
      .fallback = "Site",
      .text_column = kNameColumn,
      .sort_column = kNameColumn},
@@ -74,13 +75,13 @@ inline constexpr Column kCameraColumns[] = {
 inline constexpr Column kStorageColumns[] = {
     {.id = "site_storage_site_column",
      .content = Content::kSite,
-     .title_id = 61000,
+     .title_id = kSiteColumnTitleId,
      .fallback = "Website",
      .text_column = kNameColumn,
      .sort_column = kNameColumn},
     {.id = "site_storage_used_column",
      .content = Content::kUsedSpace,
-     .title_id = 61004,
+     .title_id = kUsedSpaceColumnTitleId,
      .fallback = "Used",
      .text_column = 1,
      .sort_column = 2},
@@ -96,7 +97,7 @@ inline constexpr Column kStorageColumns[] = {
 inline constexpr Column kNetworkColumns[] = {
     {.id = "site_p2p_site_column",
      .content = Content::kSite,
-     .title_id = 61000,
+     .title_id = kSiteColumnTitleId,
      .fallback = "Website",
      .text_column = kNameColumn,
      .sort_column = kNameColumn},
@@ -112,7 +113,7 @@ inline constexpr Column kNetworkColumns[] = {
 inline constexpr Column kLocationColumns[] = {
     {.id = "trusted_location_column",
      .content = Content::kLocation,
-     .title_id = 81003,
+     .title_id = kLocationColumnTitleId,
      .fallback = "Filesystem location",
      .text_column = kNameColumn,
      .sort_column = kNameColumn},

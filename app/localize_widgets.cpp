@@ -25,9 +25,10 @@ constexpr char kClearsSiteData[] =
 
 // In the order in which they get their texts; those of lists come last.
 constexpr LocalizedWidget kLocalizedWidgets[] = {
-    {"tessary_corvane_dialog", TextKind::kTitle, 11400,
+    {"tessary_corvane_dialog", TextKind::kTitle, kPanelTitleId,
      "Tessary Corvane Player Preferences"},
-    {"label12", TextKind::kBoldLabel, 21001, "Local Storage Settings"},
+    {"label12", TextKind::kBoldLabel, kPermissions[kStorage].global_title_id,
+     "Local Storage Settings"},
     {"storage_explanatory_label", TextKind::kLabel, 21002,
      "Web sites may try to save information on this computer, such as "
      "game progress, high scores, saved work, history, or preferences."},
@@ -46,7 +47,8 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"privacy_linkbutton", TextKind::kButton, 21106,
      "Learn more about privacy"},
     {"storage_label", TextKind::kLabel, 21000, "Storage"},
-    {"label1", TextKind::kBoldLabel, 31001, "Camera and Microphone Settings"},
+    {"label1", TextKind::kBoldLabel, kPermissions[kCamera].global_title_id,
+     "Camera and Microphone Settings"},
     {"label6", TextKind::kLabel, 31002,
      "Ask when a site wants to use a camera or microphone (recommended)"},
     {"label21", TextKind::kLabel, 31003,
@@ -54,7 +56,8 @@ constexpr LocalizedWidget kLocalizedWidgets[] = {
     {"site_privacy_button", TextKind::kButton, 31004,
      "Camera and Mic Settings by Site…"},
     {"privacy_label", TextKind::kLabel, 31000, "Camera and Mic"},
-    {"p2p_label3", TextKind::kBoldLabel, 41001, "Peer-assisted Networking"},
+    {"p2p_label3", TextKind::kBoldLabel, kPermissions[kNetwork].global_title_id,
+     "Peer-assisted Networking"},
     {"p2p_label9", TextKind::kLabel, 41002,
      "Peer-assisted networking enables smoother media playback and "
      "features, such as chat, that connect to other computers.  It may "

@@ -2,19 +2,10 @@
 #include <string>
 
 #include "fuzz/fuzz_target.h"
+#include "strings/languages.h"
 #include "strings/string_manager.h"
 
 namespace {
-
-struct Rule {
-  const char* language_code;
-  int language;
-};
-constexpr Rule kRules[] = {
-    {"fr", 4},  {"ko", 7}, {"ja", 6},  {"sv", 12}, {"de", 2},
-    {"es", 3},  {"it", 5}, {"pt", 10}, {"pl", 9},  {"cs", 1},
-    {"tr", 13}, {"nl", 8}, {"ru", 11},
-};
 
 int ModelOf(const std::string& name) {
   std::string language = name;
@@ -25,11 +16,11 @@ int ModelOf(const std::string& name) {
   if (const auto end = name.find('.'); end != name.npos) {
     locale = name.substr(0, end);
   }
-  for (const Rule& rule : kRules) {
-    if (language == rule.language_code) return rule.language;
-  }
   if (locale == "zh_HK" || locale == "zh_MO" || locale == "zh_TW") return 15;
-  return language == "zh" ? 14 : 0;
+  for (const auto& row : NCPStrings::kLanguages) {
+    if (language == row.code) return static_cast<int>(row.language);
+  }
+  return 0;
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The sixteen languages: one row each.
+// The languages: one row each.
 #pragma once
 
 #include <iterator>

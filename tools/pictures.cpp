@@ -8,6 +8,7 @@
 
 #include "app/command_line.h"
 #include "app/dialogs.h"
+#include "app/lists.h"
 #include "app/notebook_pages.h"
 #include "app/start_up.h"
 
@@ -33,24 +34,24 @@ constexpr Picture kPictures[] = {
     {"camera_and_mic", kPrivacyPage, nullptr, nullptr},
     {"playback", kPlaybackPage, nullptr, nullptr},
     {"advanced", kAdvancedPage, nullptr, nullptr},
-    {"storage_by_site", kStoragePage, "storage_by_site_dialog",
-     "site_storage_button"},
+    {"storage_by_site", kStoragePage, kLists[kStorageList].dialog,
+     kLists[kStorageList].page_button},
     {"storage_new_site", kStoragePage, "new_site_dialog",
-     "add_site_storage_setting_button"},
+     kLists[kStorageList].add_button},
     {"block_all_storage", kStoragePage, "deny_all_storage_prompt_dialog",
      nullptr},
-    {"camera_and_mic_by_site", kPrivacyPage, "cam_and_mic_by_site_dialog",
-     "site_privacy_button"},
+    {"camera_and_mic_by_site", kPrivacyPage, kLists[kCameraList].dialog,
+     kLists[kCameraList].page_button},
     {"camera_and_mic_new_site", kPrivacyPage, "new_site_dialog",
-     "add_site_privacy_setting_button"},
-    {"peer_assisted_by_site", kPlaybackPage, "p2p_by_site_dialog",
-     "site_p2p_button"},
+     kLists[kCameraList].add_button},
+    {"peer_assisted_by_site", kPlaybackPage, kLists[kNetworkList].dialog,
+     kLists[kNetworkList].page_button},
     {"peer_assisted_new_site", kPlaybackPage, "new_site_dialog",
-     "add_site_p2p_setting_button"},
+     kLists[kNetworkList].add_button},
     {"reset_licences", kPlaybackPage, "reset_drm_prompt_dialog", nullptr},
     {"clear_site_data", kAdvancedPage, "clear_site_data_dialog", nullptr},
-    {"trusted_locations", kAdvancedPage, "compat_settings_dialog",
-     "compat_settings_button"},
+    {"trusted_locations", kAdvancedPage, kLists[kLocationList].dialog,
+     kLists[kLocationList].page_button},
     {"edit_trusted_location", kAdvancedPage, "trusted_location_edit_dialog",
      nullptr},
 };

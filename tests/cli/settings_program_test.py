@@ -114,9 +114,9 @@ class CommandLineTest(ProgramTest):
         self.assertEqual((run.returncode, run.stderr), (1, "Out of memory.\n"))
 
 
-ESC, BYTE = "日\x1b", os.fsdecode(b"\xff")
-SITES = dict.fromkeys(("gone", "block", ESC, "ask", "empty", BYTE), True)
-TABLE = """Tessary Corvane Player Preferences
+ESC, BYTE, LONG = "日\x1b", os.fsdecode(b"\xff"), 17 * "e\u0301" + 32 * "x"
+SITES = dict.fromkeys(("gone", "block", ESC, "ask", "empty", BYTE, LONG), True)
+TABLE = f"""Tessary Corvane Player Preferences
   Local Storage Settings          Allow (100 kB)
   Camera and Microphone Settings  Ask me
   Peer-assisted Networking        Ask me
@@ -126,6 +126,7 @@ Website   Storage Used  Storage Access    Camera and Mic Access  Network Access
   日\\x1B  none          Allow (10.00 MB)  Allow                  Block
   ask     none          Ask me            Ask me                 Ask me
   \\xFF    none          Allow (∞)         Ask me                 Ask me
+  {LONG}  none          Ask me            Ask me                 Ask me
 
 Trusted File or Folder Location
   /a\\x0A
@@ -140,6 +141,7 @@ class ShowTest(ProgramTest):
         self.store(ESC, klimit=10240, always=True, allow=True, p2palways=True)
         self.store("ask", klimit=0)
         self.store(BYTE, klimit=-2)
+        self.store(LONG, klimit=0)
         self.put(file_of("empty"), b"")
         self.store_master(trustedPaths={"/a\n": True})
 
@@ -153,7 +155,7 @@ class ShowTest(ProgramTest):
         self.assertEqual(self.states(), [
             "all: allow 100 ask ask", "block: block -1 block ask",
             ESC + ": allow 10240 allow block", "ask: ask 0 ask ask",
-            "\ufffd: allow -2 ask ask"])
+            "\ufffd: allow -2 ask ask", LONG + ": ask 0 ask ask"])
         self.assertEqual(self.query("show")["trusted_locations"], ["/a\n"])
         self.expect("show", 0, TABLE, "")
 
@@ -197,11 +199,11 @@ class ShowTest(ProgramTest):
         half = image(entry("klimit", NUMBER, 7)[:-1], name="n")  # still read
         for name, data, damage, shown in (
                 (file_of("ask"), b"garbage", DAMAGE,
-                 "allow block allow block! allow"),
+                 "allow block allow block! allow ask"),
                 (file_of("ask"), half, "byte 36: ReadU8() " + end,
-                 "allow block allow allow! allow"),
+                 "allow block allow allow! allow ask"),
                 (MASTER, b"", "byte 0: ReadU16() " + end,
-                 "allow! allow! block allow allow")):  # listed no more
+                 "allow! allow! block ask allow allow")):  # listed no more
             self.put(name, data)
             self.assertEqual(" ".join(
                 state.split()[1] + "!" * state.endswith("!")
