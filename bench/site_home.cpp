@@ -37,5 +37,5 @@ void SiteHome::RestoreSite(std::size_t index) const {
 }
 
 void SiteHome::AddStoredFile(std::size_t index) const {
-  (void)AddData(sites_[index], 1 + index % 4096);
+  AddData(sites_[index], 1 + index % 4096);
 }

@@ -1,10 +1,10 @@
 // A home directory of the benchmark's own, with known sites in it.
 #pragma once
 
-#include "tests/support/panel_home.h"
+#include "tests/support/temporary_home.h"
 
 // One for a process: the panel works its paths out once.
-class SiteHome : public PanelHome {
+class SiteHome : public TemporaryHome {
  public:
   // Absolute ones.
   struct Paths {

@@ -1,9 +1,6 @@
 // Effects of the pages that a user does not see, or not at once.
-#include <tuple>
-
 #include "app/notebook_pages.h"
 #include "app/widget_helpers.h"
-#include "store/setting_keys.h"
 #include "tests/app/panel_test.h"
 #include "tests/support/settings_image.h"
 
@@ -14,8 +11,11 @@ class PagesTest : public PanelTest {
  protected:
   PagesTest() { home_.AddSites({"a.example", "b.example"}); }
 
-  bool IsUsable(const char* widget) {
-    return gtk_widget_get_sensitive(Widget(widget));
+  // In the site's file.
+  void ExpectLimit(const std::string& site, double limit_kb) const {
+    EXPECT_THAT(
+        home_.Read(TemporaryHome::SettingsFileOf(site)),
+        testing::HasSubstr(image::Entry("klimit", image::Number(limit_kb))));
   }
 
   // Whether the pointer is a hand over the first row of a column.
@@ -32,21 +32,6 @@ class PagesTest : public PanelTest {
   }
 };
 
-// Filling a page switches buttons, which emits the signals of a user's click.
-TEST_F(PagesTest, FillingAPageWritesNothing) {
-  home_.Write(
-      PanelHome::MasterFile(),
-      image::File("settings",
-                  image::Entry(SASM::kDefaultStorageLimit, image::Number(0)) +
-                      image::Entry(SASM::kDefaultCameraAlways, image::Bool(1)) +
-                      image::Entry(SASM::kDisallowP2PUplink, image::Bool(1))));
-  Start("advanced");
-  const auto before = home_.Disk();
-  for (const int page : {0, 1, 2, 3, 0, 3, 1, 2}) GoToPage(page);
-  Settle();
-  EXPECT_EQ(home_.Disk(), before);
-}
-
 // A change on another page is stored at once, but shown when the page is.
 TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
   Start("privacy");
@@ -56,19 +41,20 @@ TEST_F(PagesTest, APageIsFilledOnlyWhenItIsCurrent) {
   GoToPage(kAdvancedPage);
   Select("site_storage_treeview", {1});
   ChooseInList(kStorageList, kPermissionStateAlwaysDeny);
-  EXPECT_EQ(home_.Stored("b.example", SASM::kStorageLimit), "-1");
+  ExpectLimit("b.example", -1);
   EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Allow"));
-  EXPECT_TRUE(IsUsable("remove_site_storage_setting_button"));
+  EXPECT_TRUE(
+      gtk_widget_get_sensitive(Widget("remove_site_storage_setting_button")));
   GoToPage(kStoragePage);
   EXPECT_THAT(Column("site_storage_list", 3), ElementsAre("Allow", "Block"));
   // A row of a site that was removed from another list changes nothing.
   GoToPage(kPrivacyPage);
   Select("site_privacy_treeview", {1});
   Click("remove_site_privacy_setting_button");
-  const auto before = home_.Disk();
+  const auto before = home_.Take();
   Select("site_storage_treeview", {1});
   ChooseInList(kStorageList, kPermissionStateAlwaysAllow);
-  EXPECT_EQ(home_.Disk(), before);
+  EXPECT_EQ(home_.Take(), before);
 }
 
 TEST_F(PagesTest, AHandPointsAtWhatAClickOpens) {
@@ -78,22 +64,39 @@ TEST_F(PagesTest, AHandPointsAtWhatAClickOpens) {
   EXPECT_FALSE(IsHandOver("site_storage_site_column"));
 }
 
-TEST_F(PagesTest, BlockingPeersOverridesSitesWithoutChangingThem) {
-  Start("playback");
-  Select("site_p2p_treeview", {1});
-  ChooseInList(kNetworkList, kPermissionStateAlwaysAllow);
-  for (const auto& [choice, disallowed, shown] :
-       {std::tuple("deny", "true", Names{"Block", "Block"}),
-        {"ask", "false", {"Ask me", "Allow"}}}) {
-    SCOPED_TRACE(choice);
-    Choose(("site_p2p_always_" + std::string(choice) + "_rbutton").c_str());
-    EXPECT_EQ(home_.Stored(PanelHome::kMaster, SASM::kDisallowP2PUplink),
-              disallowed);
-    EXPECT_EQ(home_.Stored("b.example", SASM::kP2PAlways), "true");
-    EXPECT_EQ(Column("site_p2p_list", 1), shown);
-    for (const char* widget : {"add_site_p2p_setting_button",
-                               "site_p2p_treeview", "site_p2p_button"}) {
-      EXPECT_EQ(IsUsable(widget), std::string(disallowed) == "false");
-    }
+TEST_F(PagesTest, ShowAndChangeTenThousandSites) {
+  Names sites;
+  for (int i = 0; i < 10000; ++i) {
+    sites.push_back("s" + std::to_string(i) + ".example");
   }
+  home_.AddSites(sites);
+  Start();
+  const List& list = kLists[kStorageList];
+  gtk_widget_show(Widget(list.dialog));
+  Settle();
+  EXPECT_EQ(Column(list.store, 0), sites);
+  gtk_tree_view_column_clicked(
+      get_column(panel_->builder, "site_storage_site_column"));
+  ASSERT_EQ(Column(list.store, 0)[2], "s10.example");
+  Select(list.tree_view, {0, 2, 9999});
+  GtkAdjustment* scrolling = gtk_tree_view_get_vadjustment(
+      get_tree_view(panel_->builder, list.tree_view));
+  constexpr double kPlace = 200000;
+  Settle();
+  gtk_adjustment_set_value(scrolling, kPlace);
+  Settle();
+  // Busy while the list is filled, and no longer.
+  GdkWindow* window = gtk_widget_get_window(panel_->window);
+  const auto expect_watch =
+      +[](GdkWindow* over) { EXPECT_TRUE(gdk_window_get_cursor(over)); };
+  g_signal_connect_swapped(get_list_store(panel_->builder, list.store),
+                           "row-inserted", G_CALLBACK(expect_watch), window);
+  ChooseInList(kStorageList, kPermissionStateAlwaysAsk);
+  EXPECT_FALSE(gdk_window_get_cursor(window));
+  EXPECT_EQ(gtk_adjustment_get_value(scrolling), kPlace);
+  ExpectLimit("s10.example", 0);
+  Select(list.tree_view, {2});
+  Click(list.remove_button);
+  sites.erase(sites.begin() + 10);
+  EXPECT_EQ(image::NamesOf(*panel_->settings->GetDomains()), sites);
 }

@@ -34,11 +34,6 @@ void PanelTest::Click(const char* button) {
   Settle();
 }
 
-void PanelTest::Choose(const char* toggle_button) {
-  gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(Widget(toggle_button)), TRUE);
-  Settle();
-}
-
 void PanelTest::Select(const char* tree_view, std::initializer_list<int> rows) {
   GtkTreeView* view = get_tree_view(panel_->builder, tree_view);
   GtkTreeSelection* selection = gtk_tree_view_get_selection(view);

@@ -8,13 +8,13 @@
 
 #include "app/gnome_tcc_applet.h"
 #include "app/lists.h"
-#include "tests/support/panel_home.h"
+#include "tests/support/temporary_home.h"
 
 // Each test needs a process of its own, as a process has one store. Any warning
 // of the toolkit ends the test.
 class PanelTest : public ::testing::Test {
  protected:
-  using Names = PanelHome::Names;
+  using Names = TemporaryHome::Names;
 
   void Start(const char* page_name = nullptr);
   void GoToPage(int page);
@@ -22,7 +22,6 @@ class PanelTest : public ::testing::Test {
   static void Settle();
 
   void Click(const char* button);
-  void Choose(const char* toggle_button);
   void Select(const char* tree_view, std::initializer_list<int> rows);
   // Emits the signal of the combo box of the first selected row.
   void ChooseInList(ListIndex index, PermissionState state);
@@ -31,6 +30,6 @@ class PanelTest : public ::testing::Test {
   [[nodiscard]] Names Column(const char* list_store, int column);
   GtkWidget* Widget(const char* id);
 
-  PanelHome home_;
+  TemporaryHome home_;
   GnomeTCCapplet* panel_ = nullptr;
 };

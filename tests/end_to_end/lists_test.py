@@ -1,9 +1,10 @@
 """The lists of sites, and of trusted locations."""
 import os
+import re
 
 from home import MASTER, data_of, file_of, settings
-from panel import (CLICK, MAIN_WINDOW, PanelTest, click_at, is_in, place_of,
-                   press, send, write)
+from panel import (CLICK, MAIN_WINDOW, PanelTest, click_at, is_in, output_of,
+                   place_of, press, send, write)
 
 A, B, C = "a.example", "b.example", "c.example"
 BLOCK, ASK, ALLOW = "Block", "Ask me", "Allow"
@@ -17,6 +18,13 @@ CAMERA = ("privacy", "Camera and Microphone", "Camera and Mic Access", ASK,
           ("always", "allow"))
 PEERS = ("playback", "Peer-assisted Networking", "Network Access", ALLOW,
          ("p2palways", "p2pallow"))
+
+
+def size_of_tooltip():
+    """In pixels; none without a tooltip. It has no window manager's frame."""
+    shown = output_of("xdotool", "search", "--onlyvisible", "--maxdepth", "1",
+                      "--class", "corvane", "getwindowgeometry")
+    return re.findall(r"(\d+)x(\d+)", shown)
 
 
 class SiteListTest(PanelTest):
@@ -107,7 +115,24 @@ class StorageListTest(SiteListTest):
         self.close()
         self.assertFalse(self.has(data_of("example")))
         self.assertFalse(self.has(file_of("z.b.example")))
-        self.assertEqual(self.stored("klimit", A), 100)
+        self.expect_stored(100, "klimit", A)
+
+
+    def test_names_that_are_hard_to_show_keep_their_bytes(self):
+        names = [os.fsdecode(b"caf\xe9"), "%s%n", "<b>&amp;</i>", "a\nb\tc",
+                 "שלום", os.fsdecode(b"w" * 253 + b"\xff")]
+        self.open(self.which, *names)
+        self.assertTrue(self.get(self.title, "table").grab_focus())
+        press("ctrl+a Right Right Right Return")
+        self.get(ALLOW, "menu item")
+        press(KEYS[BLOCK] + " Return")
+        for name in names:
+            self.expect_state(name, BLOCK)
+        self.get(BLOCK, "table cell")
+        press("shift+Down shift+Down shift+Down Delete")
+        self.see("Confirmation Needed")
+        press("Tab Return")
+        self.expect_stored(names[3:], "domains")
 
 
 class CameraListTest(StorageListTest):
@@ -204,12 +229,12 @@ class OneListTest(SiteListTest):
 
 
 class TrustedLocationsTest(PanelTest):
-    def open(self, *locations):
+    def open(self, *locations, **environment):
         if not self.has(MASTER):
             self.add_sites(locations=locations)
         (self.home / "media").mkdir()
         self.folder = str(self.home / "media")
-        self.start("-p advanced")
+        self.start("-p advanced", **environment)
         self.click("Trusted Location Settings…")
         self.see("Trusted Location Settings")
 
@@ -281,10 +306,26 @@ class TrustedLocationsTest(PanelTest):
         press("Delete")
         self.expect_locations(cafe, deep + "/")
 
+    # The longest one of all, and some that need many lines.
+    def test_of_any_length_leave_room_around_their_tooltips(self):
+        self.put("gtkrc", b'gtk-font-name = "Sans 40"')
+        locations = ["\t" * 65535, *(text * 2800 for text in (
+            "W", "wide enough\n", "\U0001f468\u200d", "e\u0301"))]
+        self.open(*locations, GTK2_RC_FILES=str(self.home / "gtkrc"))
+        self.assertTrue(
+            self.get("Trusted Location Settings", "table").grab_focus())
+        for _ in locations:
+            press("Down ctrl+F1")
+            (width, height), = self.eventually(size_of_tooltip, "a tooltip")
+            self.assertLessEqual(int(width), 1280 / 2)
+            self.assertIn(int(height), range(200, 1024 // 2))  # many lines
+            press("ctrl+F1")
+            self.eventually(lambda: not size_of_tooltip())
+
     # Another type under the key is no list: nothing to show or to change.
     def test_leave_alone_what_is_no_list(self):
         self.put(MASTER, settings({"trustedPaths": 7}))
         self.open()
         self.add_folder()
         self.close()
-        self.assertEqual(self.stored("trustedPaths"), 7)
+        self.expect_stored(7, "trustedPaths")

@@ -3,7 +3,7 @@ import itertools
 import subprocess
 
 from gi.repository import Atspi
-from home import CACHE, LICENCE, MASTER, data_of, file_of
+from home import CACHE, LICENCE, MASTER, data_of, file_of, settings
 from panel import (MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, place_of,
                    press)
 
@@ -63,12 +63,51 @@ class AllSitesTest(PanelTest):
         self.click("Block all sites from using the camera and microphone")
         for site in (A, B):
             self.expect_stored(True, "always", site)
-            self.assertIs(self.stored("allow", site), False)
+            self.expect_stored(False, "allow", site)
         self.expect_stored(True, "defaultalways")
         self.click("Ask me when a site wants to use the camera or microphone "
                    "(recommended)")
         self.expect_stored(False, "always", B)
         self.expect_stored(False, "defaultalways")
+
+    # The list says that all are blocked, and keeps what was set for each.
+    def test_peers_are_blocked_and_asked_for_again(self):
+        self.put(file_of(B), settings({"p2palways": True, "p2pallow": True}))
+        before = self.read(file_of(B))
+        self.start("-p playback")
+        title = "Peer-assisted Networking Settings by Site"
+        pages = self.window
+        self.click(title + "…")
+        self.see(title)
+        dialog = self.window
+        users = [self.get("Add…", "push button"), self.get(title, "table"),
+                 *find_all(pages, lambda node: node.get_name() == title + "…")]
+        for choice, is_blocked, shown in (
+                ("Block all sites from using", True, ["Block", "Block"]),
+                ("Ask me when a site wants to use", False,
+                 ["Ask me", "Allow"])):
+            self.window = pages
+            self.click(choice + " peer-assisted networking")
+            self.window = dialog
+            self.expect_stored(is_blocked, "disallowP2PUplink")
+            self.expect_cells(A, shown[0], B, shown[1])
+            self.assertEqual([is_in(node, "SENSITIVE") for node in users],
+                             [not is_blocked] * 3)
+        self.assertEqual(self.read(file_of(B)), before)
+
+    # Showing a choice presses its button, as a click does.
+    def test_pages_that_are_only_looked_at_write_nothing(self):
+        self.put(MASTER, settings({"defaultklimit": 0, "defaultalways": True,
+                                   "disallowP2PUplink": True}))
+        self.start("-p advanced")
+        before = self.disk()
+        pages = self.get("", "page tab list")
+        for page in (0, 1, 2, 0, 3, 1, 2):
+            self.assertTrue(Atspi.Selection.select_child(pages, page))
+            self.eventually(
+                lambda: Atspi.Selection.is_child_selected(pages, page))
+        self.close()
+        self.assertEqual(self.disk(), before)
 
     def test_licences_are_reset(self):
         self.start("-p advanced")
@@ -90,9 +129,8 @@ class AllSitesTest(PanelTest):
                 self.close()
                 for name in (data_of(B), CACHE, file_of(A)):
                     self.assertEqual(self.has(name), not sites, name)
-                self.assertEqual(self.stored("domains"),
-                                 [] if sites else [A, B])
-                self.assertEqual(self.stored("defaultklimit"), 100)
+                self.expect_stored([] if sites else [A, B], "domains")
+                self.expect_stored(100, "defaultklimit")
                 self.assertEqual(self.has(LICENCE), not licences)
                 self.assertEqual(self.disk() == before,
                                  not sites and not licences)

@@ -6,7 +6,6 @@ come. Any warning of the toolkit ends the program.
 """
 import os
 import shlex
-import struct
 import subprocess
 import tempfile
 import time
@@ -15,14 +14,13 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
-from home import HomeTest, MASTER, file_of
-from make_seeds import ARRAY, BOOL, NUMBER
+from home import HomeTest, MASTER, file_of, typed
+from make_seeds import entry
 
 PROGRAM = os.environ["PANEL_PROGRAM"]
 PATIENCE = 30  # seconds
 MAIN_WINDOW = "Tessary Corvane Player Preferences"
-CLICKABLE = ("push button", "radio button", "check box", "page tab",
-             "table column header")
+CLICKABLE = ("push button", "radio button", "check box", "table column header")
 CLICK = "mousedown 1 sleep 0.15 mouseup 1".split()
 
 def is_in(node, state):
@@ -52,6 +50,11 @@ def find_all(node, fits):
     return found
 
 
+def output_of(*command):
+    return subprocess.run(command, capture_output=True, text=True,
+                          check=False).stdout.strip()
+
+
 def send(*command):
     subprocess.run(["xdotool", *command], check=True)
 
@@ -66,40 +69,6 @@ def press(keys):
 
 def write(text):
     send("type", text)
-
-
-def stored_value(data, key):
-    """The value under a key: True, 100.0, a list of names; None for none."""
-    start = data.index(b"TCSO") + 10
-    size, = struct.unpack_from(">H", data, start)
-    rest = data[start + 2 + size + 4:]
-
-    def take(count):
-        nonlocal rest
-        taken, rest = rest[:count], rest[count:]
-        return taken
-
-    def text():
-        return os.fsdecode(take(*struct.unpack(">H", take(2))))
-
-    def scalar(kind):
-        if kind == NUMBER:
-            return struct.unpack(">d", take(8))[0]
-        return take(1) != b"\0" if kind == BOOL else text()
-
-    while rest:
-        name, kind, value = text(), take(1)[0], []
-        if kind == ARRAY:
-            while element := text():
-                scalar(take(1)[0])
-                value.append(element)
-            take(1)
-        else:
-            value = scalar(kind)
-        take(1)
-        if name == key:
-            return value
-    return None
 
 
 class PanelTest(HomeTest):
@@ -132,7 +101,7 @@ class PanelTest(HomeTest):
             try:
                 if result := condition():
                     return result
-            except GLib.Error:  # a node has gone
+            except (GLib.Error, FileNotFoundError):  # it has gone
                 pass
             if time.monotonic() > deadline:
                 self.fail(f"{what} does not come")
@@ -176,27 +145,29 @@ class PanelTest(HomeTest):
         self.eventually(lambda: is_in(self.get(row, "table cell"),
                                       "SELECTED"), row)
 
+    def cells(self):
+        """The texts of the list, row by row."""
+        return [name for node in find_all(
+            self.window, lambda node: node.get_role_name() == "table cell")
+                if (name := node.get_name())]
+
+    def expect_cells(self, *texts):
+        self.eventually(lambda: self.cells() == list(texts), str(texts))
+
     def expect_rows(self, *names):
         """The names of sites or locations, from top to bottom."""
-        def cells():
-            return [node.get_name() for node in find_all(
-                self.window, lambda node: node.get_role_name() == "table cell")]
         self.eventually(lambda: [
-            name for name in cells()
+            name for name in self.cells()
             if name.endswith("example") or name[:1] == "/"] == list(names),
                         str(names))
 
-    def stored(self, key, site=None):
-        return stored_value(self.read(file_of(site) if site else MASTER), key)
-
     def expect_stored(self, value, key, site=None):
-        """What comes to be on disk."""
-        def is_stored():
-            try:
-                return self.stored(key, site) == value
-            except (FileNotFoundError, ValueError):  # being written
-                return False
-        self.eventually(is_stored, f"{site} {key} = {value}")
+        """What comes to be on disk; of a list, the names of true elements."""
+        if isinstance(value, list):
+            value = [(name, True) for name in value]
+        stored = entry(key, *typed(value))
+        self.eventually(lambda: stored in self.read(
+            file_of(site) if site else MASTER), f"{site} {key} = {value}")
 
     def expect_end(self, errors=""):
         """Standard error holds what matches the pattern and nothing else."""

@@ -2,11 +2,10 @@
 import ast
 import pathlib
 import re
-import subprocess
 
 from gi.repository import Atspi
 from home import CACHE, LICENCE, data_of
-from panel import PanelTest, find_all, is_in, press
+from panel import PanelTest, find_all, is_in, output_of, press
 
 SOURCES = pathlib.Path(__file__).parents[2]
 ROW = re.compile(r'\{(\d+),\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\}')
@@ -65,11 +64,6 @@ def text(ids):
     """The text of an id, or of two as paragraphs."""
     return (TEXTS[ids] if isinstance(ids, int) else
             "\n\n".join(map(text, ids)))
-
-
-def output_of(*command):
-    return subprocess.run(command, capture_output=True, text=True,
-                          check=False).stdout.strip()
 
 
 # Dialogs of which one button deletes something, and Enter presses another.

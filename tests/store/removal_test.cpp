@@ -52,7 +52,7 @@ TEST_F(StoreRemoval, AndEverythingElseRefusesWhatIsNoSiteName) {
   std::istringstream words(
       ". .. / //x /etc ../a a/.. a/./b ..// a/../../.. a/. ./a a/ a//b "
       "../#keep.example ___MASTER_DOMAIN a");
-  PanelHome::Names names(std::istream_iterator<std::string>(words), {});
+  TemporaryHome::Names names(std::istream_iterator<std::string>(words), {});
   home_.AddSites({"a"});
   WriteMaster(Entry("domains", Array(Flags(names))));
   names.back() = "";

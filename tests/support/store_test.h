@@ -9,8 +9,8 @@
 #include "store/setting_keys.h"
 #include "store/settings_manager.h"
 #include "tests/support/home_file_manager.h"
-#include "tests/support/panel_home.h"
 #include "tests/support/settings_image.h"
+#include "tests/support/temporary_home.h"
 
 class StoreTest : public testing::Test {
  public:
@@ -20,7 +20,7 @@ class StoreTest : public testing::Test {
     manager_.emplace(&files_);
   }
   // With those sites listed, each with its files.
-  void Begin(const PanelHome::Names& sites) {
+  void Begin(const TemporaryHome::Names& sites) {
     home_.AddSites(sites);
     for (const std::string& site : sites) home_.AddData(site, 10);
     Start();
@@ -62,7 +62,7 @@ class StoreTest : public testing::Test {
     return Held(key, SASM::SettingsManager::MasterDomain().c_str());
   }
 
-  PanelHome home_;
+  TemporaryHome home_;
   HomeFileManager files_{home_};
   std::optional<SASM::SettingsManager> manager_;
 };

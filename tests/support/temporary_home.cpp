@@ -7,6 +7,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "tests/support/settings_image.h"
+
 namespace fs = std::filesystem;
 
 TemporaryHome::TemporaryHome() {
@@ -46,8 +48,8 @@ bool TemporaryHome::Has(const std::string& name) const {
   return fs::exists(fs::symlink_status(path_ / name));
 }
 
-std::vector<std::string> TemporaryHome::List() const {
-  std::vector<std::string> names;
+TemporaryHome::Names TemporaryHome::List() const {
+  Names names;
   for (const auto& entry : fs::recursive_directory_iterator(path_)) {
     names.push_back(entry.path().lexically_relative(path_));
   }
@@ -91,4 +93,16 @@ std::string TemporaryHome::SettingsFileOf(const std::string& domain) {
 
 std::string TemporaryHome::StorageOf(const std::string& site) {
   return std::string(kSharedObjects) + "/QK5SFBDP/" + site;
+}
+
+void TemporaryHome::AddSites(const Names& sites, const Names& locations) const {
+  for (const std::string& site : sites) {
+    Write(SettingsFileOf(site), image::DefaultSiteFile(site));
+  }
+  Write(MasterFile(),
+        image::DefaultMasterFile(image::Flags(sites), image::Flags(locations)));
+}
+
+void TemporaryHome::AddData(const std::string& site, std::size_t bytes) const {
+  Write(StorageOf(site) + "/data", std::string(bytes, 'x'));
 }

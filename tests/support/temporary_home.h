@@ -1,4 +1,4 @@
-// A home directory of a test's own.
+// A home directory of a test's own, with what the panel keeps in it.
 #pragma once
 
 #include <filesystem>
@@ -23,8 +23,9 @@ class TemporaryHome {
   // Fails the test and gives an empty text when there is no such file.
   [[nodiscard]] std::string Read(const std::string& name) const;
   [[nodiscard]] bool Has(const std::string& name) const;
+  using Names = std::vector<std::string>;
   // All files and directories, sorted.
-  [[nodiscard]] std::vector<std::string> List() const;
+  [[nodiscard]] Names List() const;
 
   // Each name to its bytes; that of a directory ends in "/".
   using Snapshot = std::map<std::string, std::string>;
@@ -43,6 +44,12 @@ class TemporaryHome {
   [[nodiscard]] static std::string SettingsFileOf(const std::string& domain);
   // The directory of a site's local storage.
   [[nodiscard]] static std::string StorageOf(const std::string& site);
+
+  // Default settings with lists of known sites, which have theirs, and of
+  // trusted locations, in the place of earlier ones.
+  void AddSites(const Names& sites, const Names& locations = {}) const;
+  // A file in the site's local storage.
+  void AddData(const std::string& site, std::size_t bytes) const;
 
  private:
   std::filesystem::path path_;
