@@ -11,6 +11,7 @@
 #include "cli/error_messages.h"
 #include "platform/home_directory.h"
 #include "platform/linux_file_manager.h"
+#include "strings/printable_text.h"
 
 namespace {
 
@@ -34,6 +35,10 @@ ExitStatus Apply(const std::vector<Change>& changes,
 }
 
 }  // namespace
+
+std::string Line(std::string_view subject, std::string_view what) {
+  return Printable(subject).append(": ").append(what);
+}
 
 void Changes::Add(Change change) {
   if (!change.lines.empty()) changes_.push_back(std::move(change));
@@ -76,8 +81,7 @@ bool MayChange(const StoreView& store) {
 bool AreSiteNames(const std::vector<const char*>& names) {
   for (const char* name : names) {
     if (SASM::IsSiteName(name)) continue;
-    PrintUsageError("this can be no site: ", name);
-    return false;
+    return Refuse("this can be no site: ", name);
   }
   return true;
 }

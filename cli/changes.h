@@ -19,6 +19,9 @@ struct Change {
   std::function<bool(SASM::SettingsManager&)> apply;
 };
 
+// "SUBJECT: WHAT", printable.
+[[nodiscard]] std::string Line(std::string_view subject, std::string_view what);
+
 class Changes {
  public:
   // Drops a change without lines.

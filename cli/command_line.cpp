@@ -5,35 +5,37 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 #include "cli/commands.h"
 #include "strings/printable_text.h"
 
 namespace {
 
+constexpr std::size_t kAnyNumber = SIZE_MAX;
+
 constexpr Command kCommands[] = {
     {"show", "[SITE...]", "show the global settings and those of the sites",
-     "jpN0", nullptr, RunShow, true},
+     "jpN0", nullptr, RunShow, kAnyNumber},
     {"inspect", "FILE...", "show what settings files hold, entry by entry",
-     "jsg", nullptr, RunInspect, true},
+     "jsg", nullptr, RunInspect, kAnyNumber},
     {"doctor", "", "find what is wrong and what no list shows", "jrn", nullptr,
-     RunDoctor, false},
+     RunDoctor, 0},
     {"export", "[SITE...]", "print all settings as a JSON document", "o",
-     nullptr, RunExport, true},
-    {"import", "FILE", "apply such a document", "RDn", "a file", RunImport,
-     true},
+     nullptr, RunExport, kAnyNumber},
+    {"import", "FILE", "apply such a document", "RDn", "a file", RunImport, 1},
     {"set", "KIND=STATE... SITE...", "set permissions of sites", "aAn",
-     "a permission", RunSet, true},
+     "a permission", RunSet, kAnyNumber},
     {"remove", "SITE...", "remove sites, with their settings and data", "kn",
-     "a site", RunRemove, true},
+     "a site", RunRemove, kAnyNumber},
     {"clear", "WHAT...", "delete what sites and the plug-in have stored", "KOn",
-     "what to clear", RunClear, true},
+     "what to clear", RunClear, kAnyNumber},
     {"trust", "PATH...", "add trusted locations", "n", "a path", RunTrust,
-     true},
+     kAnyNumber},
     {"untrust", "PATH...", "remove trusted locations", "n", "a path",
-     RunUntrust, true},
+     RunUntrust, kAnyNumber},
     {"version", "", "show which versions are installed", "", nullptr,
-     RunVersion, false},
+     RunVersion, 0},
 };
 
 struct OptionRow {
@@ -72,11 +74,6 @@ constexpr OptionRow kOptions[] = {
     {kVersion, true, "version", nullptr,
      "print the version of this program and exit"},
 };
-
-// False, for callers that then fail.
-bool Refuse(std::string_view message, std::string_view argument = "") {
-  return PrintUsageError(message, argument) == kSuccess;
-}
 
 template <typename Rows>
 const auto* FindWord(const Rows& rows, std::string_view word) {
@@ -188,8 +185,8 @@ bool CheckArguments(const CommandLine& line) {
   if (command.needed_word && line.words.empty()) {
     return Refuse(std::string(command.needed_word) + " is missing");
   }
-  return command.takes_words || line.words.empty() ||
-         Refuse("unexpected argument: ", line.words[0]);
+  return line.words.size() <= command.most_words ||
+         Refuse("unexpected argument: ", line.words[command.most_words]);
 }
 
 bool ParseLimit(std::string_view text, PermissionChange* change) {
@@ -229,6 +226,10 @@ ExitStatus PrintUsageError(std::string_view message,
   return kUsageError;
 }
 
+bool Refuse(std::string_view message, std::string_view argument) {
+  return PrintUsageError(message, argument) == kSuccess;
+}
+
 bool ParseCommandLine(std::span<char*> arguments, CommandLine* line) {
   if (!SplitArguments(arguments, line)) return false;
   if (line->Has(kHelp) || line->Has(kVersion)) return true;
@@ -238,16 +239,18 @@ bool ParseCommandLine(std::span<char*> arguments, CommandLine* line) {
 bool ParsePermission(std::string_view text, Limits limits,
                      PermissionChange* change) {
   const std::size_t equals = text.find('=');
-  if (equals == text.npos) return false;
-  const std::string_view word = text.substr(equals + 1);
   change->permission = FindWord(kPermissions, text.substr(0, equals));
-  if (!change->permission) return false;
+  if (!change->permission || equals == text.npos) {
+    return Refuse("no such permission: ", text);
+  }
+  const std::string_view word = text.substr(equals + 1);
   if (const auto* choice = FindWord(kPermissionChoices, word)) {
     change->state = choice->state;
     return true;
   }
-  return limits == Limits::kAllowed && change->permission->limit_key &&
-         ParseLimit(word, change);
+  return (limits == Limits::kAllowed && change->permission->limit_key &&
+          ParseLimit(word, change)) ||
+         Refuse("no such permission: ", text);
 }
 
 void PrintHelp(std::FILE* output) {

@@ -47,7 +47,7 @@ struct Command {
   // when there may be none.
   const char* needed_word;
   ExitStatus (*run)(const CommandLine& line);
-  bool takes_words;
+  std::size_t most_words;
 };
 
 // What the user typed; borrowed from the program's arguments.
@@ -78,6 +78,8 @@ struct CommandLine {
 // Prints the message, with the argument made printable, and where help is.
 ExitStatus PrintUsageError(std::string_view message,
                            std::string_view argument = "");
+// The same, for checks: false.
+bool Refuse(std::string_view message, std::string_view argument = "");
 
 // A permission and a state or, for storage, perhaps a limit.
 struct PermissionChange {
@@ -88,7 +90,7 @@ struct PermissionChange {
   double limit_kb = 0;
 };
 enum class Limits { kAllowed, kRefused };
-// KIND=STATE. False when it is none, or a limit that is refused.
+// KIND=STATE. Refuses what is none, and a limit where none is allowed.
 [[nodiscard]] bool ParsePermission(std::string_view text, Limits limits,
                                    PermissionChange* change);
 

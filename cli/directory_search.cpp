@@ -1,12 +1,47 @@
-#include "cli/owner_search.h"
+#include "cli/directory_search.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
+#include <ctime>
+#include <memory>
+
 #include "platform/directory_walk.h"
+#include "platform/linux_file_manager.h"
 #include "platform/open_below.h"
 
+using SASM::SimpleString;
+
 namespace {
+
+class OldFileSearch : private DirectoryWalk {
+ public:
+  explicit OldFileSearch(unsigned long age_seconds)
+      : DirectoryWalk(kThere), bound_(static_cast<std::time_t>(age_seconds)) {}
+
+  bool Run(int directory) {
+    Walk(directory, ".");
+    return found_;
+  }
+
+ private:
+  bool VisitEntry(int directory, const char* name, unsigned char,
+                  FileIdentity*) override {
+    struct stat info;
+    if (found_ || fstatat(directory, name, &info, AT_SYMLINK_NOFOLLOW) != 0) {
+      return false;
+    }
+    if (S_ISDIR(info.st_mode)) return true;
+    std::time_t age = 0;
+    found_ = !__builtin_sub_overflow(now_, info.st_mtime, &age) && age > bound_;
+    return false;
+  }
+
+  const std::time_t bound_;
+  const std::time_t now_ = std::time(nullptr);
+  bool found_ = false;
+};
 
 class OddEntrySearch : private DirectoryWalk {
  public:
@@ -58,6 +93,33 @@ class OddEntrySearch : private DirectoryWalk {
 };
 
 }  // namespace
+
+bool IsThere(const SimpleString& path) {
+  struct stat info;
+  if (lstat(path.c_str(), &info) == 0) return true;
+  return errno != ENOENT && errno != ENOTDIR;
+}
+
+bool ListDirectory(const SimpleString& directory,
+                   std::vector<std::string>* names) {
+  const std::unique_ptr<SASM::StringVector> list(
+      LinuxFileManager().CreateNewListOfDirectoryContents(directory));
+  const int error = errno;
+  for (unsigned int i = 0; i < list->count; ++i) {
+    names->emplace_back(list->TextAt(i));
+  }
+  errno = error;
+  return error == 0 || error == ENOENT;
+}
+
+bool HasFileOlderThan(const char* trusted, const char* way,
+                      unsigned long age_seconds) {
+  const FileDescriptor directory = OpenBelow(trusted, way);
+  if (directory.IsOpen()) {
+    return OldFileSearch(age_seconds).Run(directory.Get());
+  }
+  return errno != ENOENT && errno != ENOTDIR;
+}
 
 std::vector<OddEntry> FindOddEntries(const std::string& directory,
                                      uid_t owner) {

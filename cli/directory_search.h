@@ -1,4 +1,4 @@
-// What a user does not expect in a directory of their own.
+// What is in directories. Changes nothing.
 #pragma once
 
 #include <sys/types.h>
@@ -6,6 +6,23 @@
 #include <string>
 #include <vector>
 
+#include "settings/simple_string.h"
+
+// False only when certainly nothing is there, not even a link.
+[[nodiscard]] bool IsThere(const SASM::SimpleString& path);
+
+// Appends the names in the directory, in natural order. False, with an error
+// number, when it cannot be read; true when it does not exist.
+[[nodiscard]] bool ListDirectory(const SASM::SimpleString& directory,
+                                 std::vector<std::string>* names);
+
+// True when the tree at `way` below the directory `trusted` holds a file, or
+// anything else but a directory, that was changed longer ago than this,
+// or cannot be opened. Follows no link.
+[[nodiscard]] bool HasFileOlderThan(const char* trusted, const char* way,
+                                    unsigned long age_seconds);
+
+// What a user does not expect in a directory of their own.
 struct OddEntry {
   enum class Oddity { kOtherOwner, kLink };
   std::string path;

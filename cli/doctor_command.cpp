@@ -4,7 +4,7 @@
 #include "cli/commands.h"
 #include "cli/findings.h"
 #include "cli/json.h"
-#include "platform/linux_file_manager.h"
+#include "cli/settings_edit.h"
 #include "strings/printable_text.h"
 
 using SASM::SettingsManager;
@@ -47,8 +47,9 @@ Changes Relisting(const StoreView& store,
   Changes changes;
   if (store.MasterProblem().Exists()) {
     // Opening the store has put them there.
-    changes.Add({"all sites",
-                 {"all sites: defaults again"},
+    const std::string subject = SubjectOf(SASM::MasterDomainName());
+    changes.Add({subject,
+                 {Line(subject, "defaults again")},
                  [](SettingsManager& manager) {
                    return manager.SynchronizeSettingsForDomain(
                        SettingsManager::MasterDomain());
@@ -58,7 +59,7 @@ Changes Relisting(const StoreView& store,
     if (!IsUnlistedSite(finding)) continue;
     const SimpleString site = finding.subject.c_str();
     changes.Add({finding.subject,
-                 {Printable(finding.subject) + ": added"},
+                 {Line(finding.subject, "added")},
                  [site](SettingsManager& manager) {
                    return manager.AddDomainWithDefaultSettings(site);
                  }});
@@ -83,10 +84,9 @@ ExitStatus RunDoctor(const CommandLine& line) {
   if (line.Has(kDryRun) && !line.Has(kRelist)) {
     return PrintUsageError("--dry-run is for --relist");
   }
-  const LinuxFileManager files;
-  const StoreView store(files);
+  const StoreView store;
   if (!store.Layout().IsOnDisk()) return kFailure;
-  std::vector<Finding> findings = FindFaults(store, files);
+  std::vector<Finding> findings = FindFaults(store);
   ExitStatus status = kSuccess;
   Json changes;
   if (line.Has(kRelist)) {

@@ -11,7 +11,5 @@ void PrintError(std::string_view name, std::string_view message) {
 }
 
 void PrintProblem(const char* file, const FileProblem& problem) {
-  const std::string where =
-      problem.offset ? "byte " + std::to_string(*problem.offset) + ": " : "";
-  PrintError(file, where + problem.text);
+  PrintError(file, problem.Message());
 }

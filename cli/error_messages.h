@@ -8,5 +8,4 @@
 // "PROGRAM: NAME: MESSAGE", where the name is that of a file or a site. The
 // message is printed as it is.
 void PrintError(std::string_view name, std::string_view message);
-// "PROGRAM: FILE: byte OFFSET: TEXT", without the offset if there is none.
 void PrintProblem(const char* file, const FileProblem& problem);

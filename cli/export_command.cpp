@@ -1,20 +1,19 @@
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <set>
 
 #include "cli/commands.h"
 #include "cli/document.h"
 #include "cli/error_messages.h"
 #include "cli/store_view.h"
 #include "cli/unknown_sites.h"
-#include "platform/linux_file_manager.h"
 
 namespace {
 
 class ExportCommand {
  public:
   explicit ExportCommand(const CommandLine& line)
-      : line_(line), store_(files_), unknown_(store_) {}
+      : line_(line), unknown_(store_) {}
 
   // Null when something is damaged or unknown, which is reported.
   Json NewDocument() {
@@ -24,7 +23,8 @@ class ExportCommand {
     if (line_.words.empty()) {
       Set(document.get(), "global",
           NewEntries(store_.Master(), kKeysWithOwnMember));
-      Set(document.get(), "trusted_locations", NewLocations());
+      Set(document.get(), "trusted_locations",
+          NewTexts(store_.TrustedLocations(), NewText));
     }
     Set(document.get(), "sites", NewSites());
     return is_whole_ ? std::move(document) : nullptr;
@@ -32,12 +32,10 @@ class ExportCommand {
 
  private:
   // By name, each once.
-  std::vector<std::string> Names() const {
-    std::vector<std::string> names(line_.words.begin(), line_.words.end());
-    if (names.empty()) names = store_.PossibleSites();
-    std::ranges::sort(names);
-    names.erase(std::unique(names.begin(), names.end()), names.end());
-    return names;
+  std::set<std::string> Names() const {
+    if (!line_.words.empty()) return {line_.words.begin(), line_.words.end()};
+    const std::vector<std::string> sites = store_.PossibleSites();
+    return {sites.begin(), sites.end()};
   }
 
   json_t* NewSites() {
@@ -69,16 +67,7 @@ class ExportCommand {
     return site;
   }
 
-  json_t* NewLocations() const {
-    json_t* array = json_array();
-    for (const std::string& name : store_.TrustedLocations()) {
-      json_array_append_new(array, NewText(name));
-    }
-    return array;
-  }
-
   const CommandLine& line_;
-  const LinuxFileManager files_;
   const StoreView store_;
   UnknownSites unknown_;
   bool is_whole_ = true;

@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "cli/owner_search.h"
+#include "cli/directory_search.h"
 #include "platform/home_directory.h"
 #include "store/stored_sites.h"
 #include "strings/printable_text.h"
@@ -20,8 +20,8 @@ using About = Finding::About;
 
 class FaultSearch {
  public:
-  FaultSearch(const StoreView& store, const SASM::FileManager& files)
-      : store_(store), files_(files), layout_(store.Layout()) {}
+  explicit FaultSearch(const StoreView& store)
+      : store_(store), layout_(store.Layout()) {}
 
   std::vector<Finding> Run() {
     if (!layout_.IsOnDisk()) return {};
@@ -33,8 +33,8 @@ class FaultSearch {
     }
     LookAtData();
     for (const SimpleString& directory :
-         {layout_.BaseDirectory(), files_.GetAssetCacheDirectory(),
-          files_.GetDRMLicenseDataDirectory()}) {
+         {layout_.BaseDirectory(), store_.Files().GetAssetCacheDirectory(),
+          store_.Files().GetDRMLicenseDataDirectory()}) {
       LookAtOwners(directory.c_str());
     }
     return std::move(findings_);
@@ -49,10 +49,8 @@ class FaultSearch {
   }
 
   void AddDamage(const SimpleString& file, const FileProblem& problem) {
-    if (!problem.Exists()) return;
-    const std::string where =
-        problem.offset ? "byte " + std::to_string(*problem.offset) + ": " : "";
-    AddPath(kDamagedFile, file.c_str(), where + problem.text);
+    if (problem.Exists())
+      AddPath(kDamagedFile, file.c_str(), problem.Message());
   }
 
   bool HasFile(const std::string& site) const {
@@ -111,19 +109,13 @@ class FaultSearch {
     return has_capital ? "has capital letters and matches no site" : nullptr;
   }
 
-  std::vector<std::string> Listing(const SimpleString& directory) const {
-    const std::unique_ptr<SASM::StringVector> list(
-        files_.CreateNewListOfDirectoryContents(directory));
-    std::vector<std::string> names;
-    for (unsigned int i = 0; i < list->count; ++i) {
-      names.emplace_back(list->TextAt(i));
-    }
-    return names;
-  }
-
   void LookAtData() {
     const SimpleString root = layout_.LocalStorageRoot();
-    const std::vector<std::string> directories = Listing(root);
+    std::vector<std::string> directories;
+    std::vector<std::string> sites;
+    // Without a listing there is nothing to compare.
+    (void)ListDirectory(root, &directories);
+    (void)ListDirectory(layout_.LocalStorageDirectory(), &sites);
     for (std::size_t i = 1; i < directories.size(); ++i) {
       AddPath(kFurtherDirectory,
               layout_.Join(root, directories[i].c_str()).c_str(),
@@ -135,7 +127,7 @@ class FaultSearch {
     for (const std::string& site : store_.ListedSites()) {
       listed.insert(site.substr(0, site.find('/')));
     }
-    for (const std::string& site : Listing(layout_.LocalStorageDirectory())) {
+    for (const std::string& site : sites) {
       if (listed.contains(site)) continue;
       AddSite(kUnlistedData, site, "has stored data and is not listed");
     }
@@ -158,14 +150,12 @@ class FaultSearch {
   }
 
   const StoreView& store_;
-  const SASM::FileManager& files_;
   const SASM::StoreLayout& layout_;
   std::vector<Finding> findings_;
 };
 
 }  // namespace
 
-std::vector<Finding> FindFaults(const StoreView& store,
-                                const SASM::FileManager& files) {
-  return FaultSearch(store, files).Run();
+std::vector<Finding> FindFaults(const StoreView& store) {
+  return FaultSearch(store).Run();
 }

@@ -32,5 +32,4 @@ inline constexpr char kDuplicateName[] = "duplicate-name";
 
 // Reads every file of settings and looks at everything below the directories
 // of the store. Prints nothing.
-[[nodiscard]] std::vector<Finding> FindFaults(const StoreView& store,
-                                              const SASM::FileManager& files);
+[[nodiscard]] std::vector<Finding> FindFaults(const StoreView& store);

@@ -8,8 +8,6 @@
 #include "cli/settings_edit.h"
 #include "cli/site_removal.h"
 #include "cli/trusted_locations.h"
-#include "platform/linux_file_manager.h"
-#include "strings/printable_text.h"
 
 using SASM::SettingsDictionary;
 using SASM::SettingsManager;
@@ -36,8 +34,7 @@ class ImportCommand {
       : line_(line),
         replaces_(line.Has(kReplace)),
         deletes_data_(line.Has(kDeleteData)),
-        document_(document),
-        store_(files_) {}
+        document_(document) {}
 
   ExitStatus Run() {
     if (!MayChange(store_)) return kFailure;
@@ -105,11 +102,10 @@ class ImportCommand {
         replaces_ && places > wanted ? places - wanted : 0;
     const bool adds = site.is_listed && places == 0;
     if (!is_new && !adds && surplus == 0) return;
-    const char* what = is_new || adds ? ": added"
-                       : wanted == 0  ? ": no longer listed"
-                                      : ": listed once";
-    change->lines.insert(change->lines.begin(),
-                         Printable(site.name.c_str()) + what);
+    const char* what = is_new || adds ? "added"
+                       : wanted == 0  ? "no longer listed"
+                                      : "listed once";
+    change->lines.insert(change->lines.begin(), Line(site.name.c_str(), what));
     change->apply = [name = site.name, is_listed = site.is_listed, surplus,
                      write = change->apply](SettingsManager& manager) {
       if (write && !write(manager)) return false;
@@ -161,7 +157,6 @@ class ImportCommand {
   const bool replaces_;
   const bool deletes_data_;
   const Document& document_;
-  const LinuxFileManager files_;
   const StoreView store_;
   Changes changes_;
   ExitStatus status_ = kSuccess;
@@ -177,9 +172,6 @@ const char* MissingMember(const Document& document) {
 }  // namespace
 
 ExitStatus RunImport(const CommandLine& line) {
-  if (line.words.size() > 1) {
-    return PrintUsageError("unexpected argument: ", line.words[1]);
-  }
   Document document;
   std::string problem;
   if (!ReadDocument(line.words[0], &document, &problem)) {

@@ -71,25 +71,15 @@ class TextListing : public Listing {
   void FailFile(const std::string&) override {}
 
  private:
-  static std::string ValueText(const SettingDataItem& item) {
-    switch (item.type) {
-      case SASM::kSettingsDataTypeDouble:
-        return " = " + Decimal(item.value.number);
-      case SASM::kSettingsDataTypeBool:
-        return item.value.boolean ? " = true" : " = false";
-      case SASM::kSettingsDataTypeString:
-        return " = \"" + Printable(item.value.string->c_str()) + "\"";
-      default:
-        return "";
-    }
-  }
-
   // Elements of an array have no offset and are indented.
   static void PrintItem(const std::string& offset,
                         const SettingDataItem& item) {
+    const bool is_scalar = item.type < SASM::kSettingsDataTypeArray;
+    const std::string value =
+        is_scalar ? " = " + ValueText(item, std::string::npos) : "";
     std::printf("%10s  %-7s  %s%s%s\n", offset.c_str(), TypeWord(item),
                 offset.empty() ? "  " : "",
-                Printable(item.name.c_str()).c_str(), ValueText(item).c_str());
+                Printable(item.name.c_str()).c_str(), value.c_str());
   }
 
   static void PrintFault(const SettingsReader::Fault& fault) {
@@ -161,10 +151,8 @@ class JsonListing : public Listing {
   // Null for an unknown type.
   static json_t* NewValue(const SettingDataItem& item) {
     switch (item.type) {
-      case SASM::kSettingsDataTypeDouble: {
-        const char* word = WordOfNumber(item.value.number);
-        return word ? json_string(word) : NewNumber(item.value.number);
-      }
+      case SASM::kSettingsDataTypeDouble:
+        return NewShownNumber(item.value.number);
       case SASM::kSettingsDataTypeBool:
         return json_boolean(item.value.boolean);
       case SASM::kSettingsDataTypeString:

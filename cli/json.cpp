@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
-#include <string>
 
 #include "settings/out_of_memory.h"
 #include "strings/utf8.h"
@@ -94,6 +93,15 @@ json_t* NewShownText(std::string_view bytes) {
   return NewString(text);
 }
 
+json_t* NewTexts(const std::vector<std::string>& texts,
+                 json_t* (*make)(std::string_view bytes)) {
+  json_t* array = json_array();
+  for (const std::string& text : texts) {
+    json_array_append_new(array, make(text));
+  }
+  return array;
+}
+
 json_t* NewNumber(double number) {
   constexpr double kLargestInteger = 9007199254740992.0;  // 2^53
   const bool is_integer = number == std::trunc(number) &&
@@ -109,6 +117,11 @@ const char* WordOfNumber(double number) {
   if (std::isnan(number)) return "NaN";
   if (std::isinf(number)) return number < 0 ? "-Infinity" : "Infinity";
   return nullptr;
+}
+
+json_t* NewShownNumber(double number) {
+  const char* word = WordOfNumber(number);
+  return word ? json_string(word) : NewNumber(number);
 }
 
 void Set(json_t* object, const char* key, json_t* value) {

@@ -5,7 +5,9 @@
 
 #include <cstdio>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 struct JsonDeleter {
   void operator()(json_t* value) const { json_decref(value); }
@@ -32,11 +34,16 @@ class JsonMemoryLimit {
 [[nodiscard]] json_t* NewText(std::string_view bytes);
 // A string in which each byte that is not UTF-8 has become U+FFFD.
 [[nodiscard]] json_t* NewShownText(std::string_view bytes);
+// An array of what `make`, one of these two, makes of the texts.
+[[nodiscard]] json_t* NewTexts(const std::vector<std::string>& texts,
+                               json_t* (*make)(std::string_view bytes));
 // An integer where that says the same. All bits are kept. `number` is finite.
 [[nodiscard]] json_t* NewNumber(double number);
 // The word for a number that JSON cannot express: "NaN", "Infinity" or
 // "-Infinity"; null for others.
 [[nodiscard]] const char* WordOfNumber(double number);
+// A number, or the word for it.
+[[nodiscard]] json_t* NewShownNumber(double number);
 
 // Sets a member; takes over `value`.
 void Set(json_t* object, const char* key, json_t* value);

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "strings/printable_text.h"
+#include "strings/string_manager.h"
 
 namespace {
 
@@ -13,10 +14,30 @@ constexpr int kWidestColumn = 48;
 
 }  // namespace
 
+std::string TextOf(int id) {
+  static StringManager strings;
+  const char* text = strings.GetString(id);
+  return text ? text : "";
+}
+
 std::string Decimal(double number) {
   char digits[32];
   const auto result = std::to_chars(digits, digits + sizeof digits, number);
   return {digits, result.ptr};
+}
+
+std::string ValueText(const SASM::SettingDataItem& item, std::size_t longest) {
+  switch (item.type) {
+    case SASM::kSettingsDataTypeDouble:
+      return Decimal(item.value.number);
+    case SASM::kSettingsDataTypeBool:
+      return item.value.boolean ? "true" : "false";
+    case SASM::kSettingsDataTypeString:
+      return '"' + PrintableExcerpt(item.value.string->c_str(), longest) + '"';
+    case SASM::kSettingsDataTypeArray:
+      return "a list of " + std::to_string(item.value.array->count);
+  }
+  return "unknown";
 }
 
 void TextTable::Print() const {

@@ -1,11 +1,9 @@
 #include "cli/commands.h"
 #include "cli/site_removal.h"
-#include "platform/linux_file_manager.h"
 
 ExitStatus RunRemove(const CommandLine& line) {
   if (!AreSiteNames(line.words)) return kUsageError;
-  const LinuxFileManager files;
-  const StoreView store(files);
+  const StoreView store;
   if (!MayChange(store)) return kFailure;
   const Data data = line.Has(kKeepData) ? Data::kKept : Data::kDeleted;
   Changes changes;

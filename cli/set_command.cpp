@@ -6,8 +6,6 @@
 #include "cli/settings_edit.h"
 #include "cli/site_removal.h"
 #include "cli/unknown_sites.h"
-#include "platform/linux_file_manager.h"
-#include "strings/printable_text.h"
 
 using SASM::SettingsManager;
 using SASM::SimpleString;
@@ -26,14 +24,10 @@ bool ParseRequest(const CommandLine& line, Request* request) {
     const std::string_view word = line.words[i];
     if (word.find('=') == word.npos) break;
     PermissionChange change;
-    if (!ParsePermission(word, Limits::kAllowed, &change)) {
-      PrintUsageError("no such permission: ", word);
-      return false;
-    }
+    if (!ParsePermission(word, Limits::kAllowed, &change)) return false;
     for (const PermissionChange& other : request->permissions) {
       if (other.permission != change.permission) continue;
-      PrintUsageError("a permission is given twice: ", word);
-      return false;
+      return Refuse("a permission is given twice: ", word);
     }
     request->permissions.push_back(change);
   }
@@ -49,47 +43,29 @@ bool OffersState(const PermissionChange& change) {
 }
 
 bool CheckRequest(const CommandLine& line, const Request& request) {
-  const auto refuse = [](const char* message, const char* argument = "") {
-    PrintUsageError(message, argument);
-    return false;
-  };
-  if (request.permissions.empty()) return refuse("a permission is missing");
+  if (request.permissions.empty()) return Refuse("a permission is missing");
   if (!line.Has(kAllSites)) {
-    if (request.sites.empty()) return refuse("a site is missing");
+    if (request.sites.empty()) return Refuse("a site is missing");
     return AreSiteNames(request.sites);
   }
   if (!request.sites.empty()) {
-    return refuse("--all-sites takes no site: ", request.sites[0]);
+    return Refuse("--all-sites takes no site: ", request.sites[0]);
   }
-  if (line.Has(kAdd)) return refuse("--add is not for --all-sites");
+  if (line.Has(kAdd)) return Refuse("--add is not for --all-sites");
   for (const PermissionChange& change : request.permissions) {
     if (OffersState(change)) continue;
-    return refuse("for all sites this is asked or blocked: ",
+    return Refuse("for all sites this is asked or blocked: ",
                   change.permission->word);
   }
   return true;
 }
-
-// How a permission is kept: for one site, or for all.
-struct Place {
-  const char* Permission::*limit_key;
-  double (*limit_kb)(const SASM::SettingsDictionary* settings);
-  PermissionState (*state)(const Permission& permission,
-                           const SASM::SettingsDictionary* settings);
-  void (*put)(const Permission& permission, PermissionState state,
-              SASM::SettingsDictionary* settings);
-};
-constexpr Place kOneSite = {&Permission::limit_key, StoredLimitKb, StoredState,
-                            PutSiteState};
-constexpr Place kEverywhere = {&Permission::global_key, GlobalLimitKb,
-                               GlobalState, PutGlobalState};
 
 enum class Listing { kKept, kAdded };
 
 class SetCommand {
  public:
   explicit SetCommand(const CommandLine& line)
-      : line_(line), store_(files_), unknown_(store_) {}
+      : line_(line), unknown_(store_) {}
 
   ExitStatus Run(const Request& request) {
     if (!MayChange(store_)) return kFailure;
@@ -105,21 +81,9 @@ class SetCommand {
   }
 
  private:
-  // Leaves a state alone that is stored already.
-  static void Put(const PermissionChange& change, const Place& place,
-                  SASM::SettingsDictionary* settings) {
-    const Permission& permission = *change.permission;
-    if (change.is_limit) {
-      if (place.limit_kb(settings) == change.limit_kb) return;
-      PutNumber(permission.*place.limit_key, change.limit_kb, settings);
-    } else if (place.state(permission, settings) != change.state) {
-      place.put(permission, change.state, settings);
-    }
-  }
-
   void SetForAllSites(const PermissionChange& change) {
     SettingsEdit edit(SASM::MasterDomainName(), &store_.Master());
-    Put(change, kEverywhere, &edit.After());
+    edit.Put(change);
     changes_.Add(edit.ToChange());
     if (change.is_limit || change.permission->switch_overrides_sites) return;
     for (const std::string& site : store_.ListedSites()) {
@@ -155,9 +119,7 @@ class SetCommand {
     if (on_disk.is_missing && listing == Listing::kKept) return;
     SettingsEdit edit(site, on_disk.dictionary.get());
     if (listing == Listing::kAdded) edit.InsertDefaults(store_.Master());
-    for (const auto& change : permissions) {
-      Put(change, kOneSite, &edit.After());
-    }
+    for (const auto& change : permissions) edit.Put(change);
     Change change = edit.ToChange();
     if (listing == Listing::kAdded) PutOnList(site, &change);
     changes_.Add(std::move(change));
@@ -166,8 +128,7 @@ class SetCommand {
 
   // Also adds the defaults.
   static void PutOnList(const SimpleString& site, Change* change) {
-    change->lines.insert(change->lines.begin(),
-                         Printable(site.c_str()) + ": added");
+    change->lines.insert(change->lines.begin(), Line(site.c_str(), "added"));
     change->apply = [site, apply = change->apply](SettingsManager& manager) {
       return manager.AddDomainWithDefaultSettings(site) && apply(manager);
     };
@@ -183,7 +144,6 @@ class SetCommand {
   }
 
   const CommandLine& line_;
-  const LinuxFileManager files_;
   const StoreView store_;
   UnknownSites unknown_;
   Changes changes_;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -21,7 +22,6 @@ namespace {
 
 constexpr char kUnset[] = "unset";
 constexpr char kArrow[] = " → ";
-constexpr std::size_t kLongestValue = 60;
 
 std::unique_ptr<SettingsDictionary> Copy(const SettingsDictionary* dictionary) {
   auto copy = std::make_unique<SettingsDictionary>();
@@ -44,20 +44,9 @@ bool AreEqual(const SDIVector& a, const SDIVector& b) {
   return true;
 }
 
-std::string ValueText(const SettingDataItem* item) {
-  if (!item) return kUnset;
-  switch (item->type) {
-    case SASM::kSettingsDataTypeDouble:
-      return Decimal(item->value.number);
-    case SASM::kSettingsDataTypeBool:
-      return item->value.boolean ? "true" : "false";
-    case SASM::kSettingsDataTypeString:
-      return '"' +
-             PrintableExcerpt(item->value.string->c_str(), kLongestValue) + '"';
-    case SASM::kSettingsDataTypeArray:
-      return "a list of " + std::to_string(item->value.array->count);
-  }
-  return "unknown";
+std::string TextOrUnset(const SettingDataItem* item) {
+  constexpr std::size_t kLongest = 60;
+  return item ? ValueText(*item, kLongest) : kUnset;
 }
 
 // A word that the command line takes.
@@ -135,67 +124,80 @@ std::vector<const char*> SettingsEdit::KeysOf(
   return {permission.always_key, permission.allow_key};
 }
 
+PermissionState SettingsEdit::StateIn(const SettingsDictionary& settings,
+                                      const Permission& permission) const {
+  return is_master_ ? GlobalState(permission, &settings)
+                    : StoredState(permission, &settings);
+}
+
+double SettingsEdit::LimitIn(const SettingsDictionary& settings) const {
+  return is_master_ ? GlobalLimitKb(&settings) : StoredLimitKb(&settings);
+}
+
+void SettingsEdit::Put(const PermissionChange& change) {
+  const Permission& permission = *change.permission;
+  if (change.is_limit) {
+    if (LimitIn(*after_) == change.limit_kb) return;
+    PutNumber(KeysOf(permission)[0], change.limit_kb, after_.get());
+  } else if (StateIn(*after_, permission) != change.state) {
+    const auto put = is_master_ ? PutGlobalState : PutSiteState;
+    put(permission, change.state, after_.get());
+  }
+}
+
 std::string SettingsEdit::Word(const Permission& permission,
                                const SettingsDictionary& settings) const {
   const auto is_missing = [&](const char* key) {
     return !SASM::FindSetting(key, settings);
   };
   if (std::ranges::all_of(KeysOf(permission), is_missing)) return kUnset;
-  if (permission.limit_key) {
-    return LimitWord(is_master_ ? GlobalLimitKb(&settings)
-                                : StoredLimitKb(&settings));
-  }
-  const PermissionState state = is_master_ ? GlobalState(permission, &settings)
-                                           : StoredState(permission, &settings);
-  return ChoiceOrBlock(state).word;
+  if (permission.limit_key) return LimitWord(LimitIn(settings));
+  return ChoiceOrBlock(StateIn(settings, permission)).word;
 }
 
-void SettingsEdit::AddPermissionLine(const Permission& permission,
-                                     std::vector<std::string>* lines,
-                                     std::vector<std::string>* told) const {
-  const std::string before = Word(permission, *before_);
-  const std::string after = Word(permission, *after_);
-  if (before == after) return;
-  lines->push_back(Printable(SubjectOf(domain_)) + ": " + permission.word +
-                   " " + before + kArrow + after);
-  for (const char* key : KeysOf(permission)) told->push_back(key);
-}
-
-std::vector<std::string> SettingsEdit::Lines() const {
+std::vector<std::string> SettingsEdit::Lines(
+    const std::vector<KeyChange>& changes) const {
   std::vector<std::string> lines;
-  std::vector<std::string> told;
+  const auto add = [&](std::string_view what, const std::string& before,
+                       const std::string& after) {
+    lines.push_back(Line(SubjectOf(domain_),
+                         Printable(what) + " " + before + kArrow + after));
+  };
+  std::vector<std::string_view> told;
   for (const Permission& permission : kPermissions) {
-    AddPermissionLine(permission, &lines, &told);
+    const std::string before = Word(permission, *before_);
+    const std::string after = Word(permission, *after_);
+    if (before == after) continue;
+    add(permission.word, before, after);
+    std::ranges::copy(KeysOf(permission), std::back_inserter(told));
   }
-  for (const KeyChange& change : KeyChanges()) {
+  for (const KeyChange& change : changes) {
     if (std::ranges::count(told, change.key.c_str()) > 0) continue;
-    lines.push_back(Printable(SubjectOf(domain_)) + ": " +
-                    Printable(change.key.c_str()) + " " +
-                    ValueText(SASM::FindSetting(change.key, *before_)) +
-                    kArrow + ValueText(SASM::FindSetting(change.key, *after_)));
+    add(change.key.c_str(),
+        TextOrUnset(SASM::FindSetting(change.key, *before_)),
+        TextOrUnset(change.value ? &*change.value : nullptr));
   }
   return lines;
 }
 
-std::function<bool(SASM::SettingsManager&)> SettingsEdit::Application() const {
-  const auto make_changes = [changes = KeyChanges(),
+Change SettingsEdit::ToChange() const {
+  std::vector<KeyChange> changes = KeyChanges();
+  std::vector<std::string> lines = Lines(changes);
+  const auto make_changes = [changes = std::move(changes),
                              replaces_all =
                                  replaces_all_](SettingsDictionary& all) {
     if (replaces_all) all.clear();
     for (const KeyChange& change : changes) {
+      const auto found = all.find(change.key);
       if (change.value) {
         all.insert(change.key, *change.value);
-        continue;
+      } else if (found != all.end()) {
+        all.erase(found);
       }
-      const auto found = all.find(change.key);
-      if (found != all.end()) all.erase(found);
     }
   };
-  return [domain = domain_, make_changes](SASM::SettingsManager& manager) {
-    return manager.ChangeSettings(domain, make_changes);
-  };
-}
-
-Change SettingsEdit::ToChange() const {
-  return {SubjectOf(domain_), Lines(), Application()};
+  return {SubjectOf(domain_), std::move(lines),
+          [domain = domain_, make_changes](SASM::SettingsManager& manager) {
+            return manager.ChangeSettings(domain, make_changes);
+          }};
 }

@@ -11,40 +11,41 @@
 [[nodiscard]] bool AreEqual(const SASM::SettingDataItem& a,
                             const SASM::SettingDataItem& b);
 
-// Two dictionaries of one domain. The first may be changed until Lines.
 class SettingsEdit {
  public:
   // `before` is copied; null is empty.
   SettingsEdit(SASM::SimpleString domain,
                const SASM::SettingsDictionary* before);
 
-  // Both hold the same at first.
-  [[nodiscard]] SASM::SettingsDictionary& Before() { return *before_; }
+  // Holds the same as `before` at first. May be changed until ToChange.
   [[nodiscard]] SASM::SettingsDictionary& After() { return *after_; }
-  // Lets Application first remove what the domain then holds. For a domain of
+  // Puts the state or the limit into After. Leaves a state alone that is there
+  // already.
+  void Put(const PermissionChange& change);
+  // Lets the change first remove what the domain then holds. For a domain of
   // which Before knows nothing.
   void ReplaceAll() { replaces_all_ = true; }
-  // Inserts into both.
+  // Inserts into what was before, too.
   void InsertDefaults(const SASM::SettingsDictionary& master);
 
-  // One line for each permission that differs: "SITE: camera ask → allow". One
-  // for each other key, and where the words for a permission are the same.
-  [[nodiscard]] std::vector<std::string> Lines() const;
-  // Makes the differences and writes once; the result of the write.
-  [[nodiscard]] std::function<bool(SASM::SettingsManager&)> Application() const;
-  // Both of these.
+  // Makes the differences and writes once. One line for each permission that
+  // differs: "SITE: camera ask → allow". One for each other key, and where the
+  // words for a permission are the same.
   [[nodiscard]] Change ToChange() const;
 
  private:
   // A key that is set or, without a value, removed.
   struct KeyChange;
   [[nodiscard]] std::vector<KeyChange> KeyChanges() const;
-  void AddPermissionLine(const Permission& permission,
-                         std::vector<std::string>* lines,
-                         std::vector<std::string>* told) const;
+  [[nodiscard]] std::vector<std::string> Lines(
+      const std::vector<KeyChange>& changes) const;
   // The keys that hold it in this domain.
   [[nodiscard]] std::vector<const char*> KeysOf(
       const Permission& permission) const;
+  [[nodiscard]] PermissionState StateIn(
+      const SASM::SettingsDictionary& settings,
+      const Permission& permission) const;
+  [[nodiscard]] double LimitIn(const SASM::SettingsDictionary& settings) const;
   // The state or the limit, or "unset" where no key is there.
   [[nodiscard]] std::string Word(
       const Permission& permission,

@@ -15,6 +15,10 @@ struct FileProblem {
   std::optional<std::uint64_t> offset;
 
   [[nodiscard]] bool Exists() const { return !text.empty(); }
+  // "byte OFFSET: TEXT", without the offset if there is none.
+  [[nodiscard]] std::string Message() const {
+    return offset ? "byte " + std::to_string(*offset) + ": " + text : text;
+  }
 };
 
 enum class ReadResult { kDone, kMissing, kFailed };

@@ -13,23 +13,11 @@
 #include "cli/store_view.h"
 #include "cli/unknown_sites.h"
 #include "model/storage_setting.h"
-#include "platform/linux_file_manager.h"
 #include "platform/tree_size.h"
 #include "strings/printable_text.h"
-#include "strings/string_manager.h"
+#include "strings/text_ids.h"
 
 namespace {
-
-// Ids of texts.
-constexpr int kPanelTitle = 11400;
-constexpr int kWebsiteTitle = 61000;
-constexpr int kStorageUsedTitle = 61004;
-constexpr int kLocationsTitle = 81003;
-
-std::string TextOf(StringManager* strings, int id) {
-  const char* text = strings->GetString(id);
-  return text ? text : "";
-}
 
 // As the panel shows it, followed by the exact number unless it is the same.
 std::string UsedText(std::uint64_t bytes) {
@@ -38,10 +26,9 @@ std::string UsedText(std::uint64_t bytes) {
 }
 
 // The state, followed for allowed storage by the limit.
-std::string StateText(const PermissionSettings& settings, PermissionKind kind,
-                      StringManager* strings) {
+std::string StateText(const PermissionSettings& settings, PermissionKind kind) {
   const PermissionChoice& choice = ChoiceOrBlock(settings.states[kind]);
-  std::string text = TextOf(strings, choice.site_text_id);
+  std::string text = TextOf(choice.site_text_id);
   if (kind != kStorage) return text;
   const double limit_kb = settings.storage_limit_kb;
   if (limit_kb > 0) {
@@ -51,46 +38,46 @@ std::string StateText(const PermissionSettings& settings, PermissionKind kind,
   return text;
 }
 
-void PrintGlobal(const PermissionSettings& global, StringManager* strings) {
-  std::puts(TextOf(strings, kPanelTitle).c_str());
+void PrintGlobal(const PermissionSettings& global) {
+  std::puts(TextOf(kPanelTitleId).c_str());
   TextTable table;
   for (const Permission& permission : kPermissions) {
-    table.Add({"  " + TextOf(strings, permission.global_title_id),
-               StateText(global, permission.kind, strings)});
+    table.Add({"  " + TextOf(permission.global_title_id),
+               StateText(global, permission.kind)});
   }
   table.Print();
 }
 
-TextTable::Row HeadOfSites(const std::string& title, StringManager* strings) {
-  TextTable::Row head = {title, TextOf(strings, kStorageUsedTitle)};
+TextTable::Row HeadOfSites(const std::string& title) {
+  TextTable::Row head = {title, TextOf(kUsedSpaceColumnTitleId)};
   for (const Permission& permission : kPermissions) {
-    head.push_back(TextOf(strings, permission.site_title_id));
+    head.push_back(TextOf(permission.site_title_id));
   }
   return head;
 }
 
-TextTable::Row RowOfSite(const SiteSettings& site, StringManager* strings) {
+TextTable::Row RowOfSite(const SiteSettings& site) {
   TextTable::Row row = {"  " + Printable(site.name),
                         UsedText(site.storage_used_bytes)};
   for (const Permission& permission : kPermissions) {
-    row.push_back(StateText(site.permissions, permission.kind, strings));
+    row.push_back(StateText(site.permissions, permission.kind));
   }
   return row;
 }
 
 void PrintSites(const std::vector<SiteSettings>& sites, bool are_listed,
-                const std::string& title, StringManager* strings) {
+                const std::string& title) {
   TextTable table;
-  table.Add(HeadOfSites(title, strings));
+  table.Add(HeadOfSites(title));
   for (const SiteSettings& site : sites) {
-    if (site.is_listed == are_listed) table.Add(RowOfSite(site, strings));
+    if (site.is_listed == are_listed) table.Add(RowOfSite(site));
   }
   std::putchar('\n');
   table.Print();
 }
 
-void PrintLocations(const StoreView& store, StringManager* strings) {
-  std::printf("\n%s\n", TextOf(strings, kLocationsTitle).c_str());
+void PrintLocations(const StoreView& store) {
+  std::printf("\n%s\n", TextOf(kLocationColumnTitleId).c_str());
   for (const std::string& location : store.TrustedLocations()) {
     std::printf("  %s\n", Printable(location).c_str());
   }
@@ -101,10 +88,7 @@ void SetPermissions(const PermissionSettings& settings, json_t* object) {
     const PermissionState state = settings.states[permission.kind];
     Set(object, permission.word, json_string(ChoiceOrBlock(state).word));
   }
-  const double limit_kb = settings.storage_limit_kb;
-  const char* word = WordOfNumber(limit_kb);
-  Set(object, "storage_limit_kb",
-      word ? json_string(word) : NewNumber(limit_kb));
+  Set(object, "storage_limit_kb", NewShownNumber(settings.storage_limit_kb));
 }
 
 json_t* NewSite(const SiteSettings& site) {
@@ -125,14 +109,6 @@ json_t* NewGlobal(const StoreView& store) {
   return global;
 }
 
-json_t* NewLocations(const StoreView& store) {
-  json_t* array = json_array();
-  for (const std::string& location : store.TrustedLocations()) {
-    json_array_append_new(array, NewShownText(location));
-  }
-  return array;
-}
-
 void PrintAsJson(json_t* value) {
   PrintJson(Json(value).get(), JSON_COMPACT, stdout);
 }
@@ -148,7 +124,7 @@ void PrintStoreAsJson(const StoreView& store,
     PrintAsJson(NewSite(site));
   }
   std::fputs("],\"trusted_locations\":", stdout);
-  PrintAsJson(NewLocations(store));
+  PrintAsJson(NewTexts(store.TrustedLocations(), NewShownText));
   std::puts("}");
 }
 
@@ -158,11 +134,10 @@ bool HasUnlisted(const std::vector<SiteSettings>& sites) {
 
 void PrintStoreAsText(const StoreView& store,
                       const std::vector<SiteSettings>& sites) {
-  StringManager strings;
-  PrintGlobal(store.Global(), &strings);
-  PrintSites(sites, true, TextOf(&strings, kWebsiteTitle), &strings);
-  if (HasUnlisted(sites)) PrintSites(sites, false, "Not listed", &strings);
-  PrintLocations(store, &strings);
+  PrintGlobal(store.Global());
+  PrintSites(sites, true, TextOf(kSiteColumnTitleId));
+  if (HasUnlisted(sites)) PrintSites(sites, false, "Not listed");
+  PrintLocations(store);
 }
 
 // What the user asked for.
@@ -186,10 +161,7 @@ bool ParseSelection(const CommandLine& line, Selection* selection) {
   selection->names = {line.words.begin(), line.words.end()};
   for (const char* text : line.ArgumentsOf(kPermission)) {
     PermissionChange filter;
-    if (!ParsePermission(text, Limits::kRefused, &filter)) {
-      PrintUsageError("no such permission: ", text);
-      return false;
-    }
+    if (!ParsePermission(text, Limits::kRefused, &filter)) return false;
     selection->filters.push_back(filter);
   }
   return true;
@@ -225,18 +197,16 @@ std::size_t ReportUnknown(const CommandLine& line, const StoreView& store,
 }
 
 bool CheckNames(const CommandLine& line) {
-  if (line.Has(kNames)) {
-    const bool is_alone =
-        line.words.empty() && !line.Has(kJson) && !line.Has(kPermission);
-    if (!is_alone) PrintUsageError("--names takes nothing but --null");
-    return is_alone;
+  if (!line.Has(kNames)) {
+    return !line.Has(kNull) || Refuse("--null is for --names");
   }
-  if (line.Has(kNull)) PrintUsageError("--null is for --names");
-  return !line.Has(kNull);
+  return (line.words.empty() && !line.Has(kJson) && !line.Has(kPermission)) ||
+         Refuse("--names takes nothing but --null");
 }
 
 ExitStatus PrintNames(const StoreView& store, const CommandLine& line) {
-  for (const std::string& site : store.ListedSitesWithSettings()) {
+  for (const std::string& site : store.ListedSites()) {
+    if (!store.HasSettings(site.c_str())) continue;
     const bool is_raw = line.Has(kNull);
     const std::string text = is_raw ? site : Printable(site);
     std::fwrite(text.data(), 1, text.size(), stdout);
@@ -251,8 +221,7 @@ ExitStatus RunShow(const CommandLine& line) {
   Selection selection;
   if (!ParseSelection(line, &selection)) return kUsageError;
   if (!CheckNames(line)) return kUsageError;
-  const LinuxFileManager files;
-  const StoreView store(files);
+  const StoreView store;
   const bool is_intact = store.ReportProblem();
   if (line.Has(kNames)) return PrintNames(store, line);
   std::vector<SiteSettings> sites = ReadSites(store, selection);

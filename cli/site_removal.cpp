@@ -1,27 +1,17 @@
 #include "cli/site_removal.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <utility>
 
-#include "strings/printable_text.h"
-
+#include "cli/directory_search.h"
 using SASM::SettingsManager;
 using SASM::SimpleString;
-
-bool IsThere(const SimpleString& path) {
-  struct stat info;
-  if (lstat(path.c_str(), &info) == 0) return true;
-  return errno != ENOENT && errno != ENOTDIR;
-}
 
 Change DeletionOfData(const SimpleString& site, const StoreView& store) {
   Change change = {site.c_str(), {}, {}};
   const SimpleString directory = store.Layout().LocalStorageOf(site);
   if (store.Layout().ListingError() == 0 && !IsThere(directory)) return change;
-  change.lines.push_back(Printable(site.c_str()) + ": stored data deleted");
+  change.lines.push_back(Line(site.c_str(), "stored data deleted"));
   change.apply = [site, directory](SettingsManager& manager) {
     // A directory that cannot be opened is left, without a failure.
     return manager.RemoveDomainInformation(site, /*remove_settings=*/false,
@@ -37,8 +27,7 @@ Change RemovalOfSite(const SimpleString& site, Data data,
   Change change = {site.c_str(), {}, {}};
   if (deletes_data) change = DeletionOfData(site, store);
   if (!store.IsKnown(site)) return change;
-  change.lines.insert(change.lines.begin(),
-                      Printable(site.c_str()) + ": removed");
+  change.lines.insert(change.lines.begin(), Line(site.c_str(), "removed"));
   const std::size_t places =
       std::max<std::size_t>(store.CountInList(site.c_str()), 1);
   change.apply =

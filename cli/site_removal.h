@@ -3,9 +3,6 @@
 
 #include "cli/changes.h"
 
-// False only when certainly nothing is there, not even a link.
-[[nodiscard]] bool IsThere(const SASM::SimpleString& path);
-
 // No change when the site certainly stores no data.
 [[nodiscard]] Change DeletionOfData(const SASM::SimpleString& site,
                                     const StoreView& store);

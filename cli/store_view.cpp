@@ -1,6 +1,6 @@
 #include "cli/store_view.h"
 
-#include <algorithm>
+#include <set>
 #include <utility>
 
 #include "cli/error_messages.h"
@@ -29,8 +29,7 @@ std::vector<std::string> NamesIn(const char* key,
 
 }  // namespace
 
-StoreView::StoreView(const SASM::FileManager& files)
-    : files_(files), layout_(&files) {
+StoreView::StoreView() : layout_(&files_) {
   if (layout_.IsOnDisk()) {
     SettingsOnDisk master =
         ReadSettings(layout_.SettingsFileOf(SASM::MasterDomainName()));
@@ -84,22 +83,12 @@ std::vector<std::string> StoreView::PossibleSites() const {
   return sites;
 }
 
-std::vector<std::string> StoreView::ListedSitesWithSettings() const {
-  std::vector<std::string> sites = ListedSites();
-  std::erase_if(sites, [this](const std::string& site) {
-    return !HasSettings(site.c_str());
-  });
-  return sites;
-}
-
 std::vector<std::string> StoreView::KnownSites() const {
-  std::vector<std::string> sites = PossibleSites();
-  std::erase_if(sites, [this](const std::string& site) {
-    return !IsKnown(site.c_str());
-  });
-  std::ranges::sort(sites);
-  sites.erase(std::unique(sites.begin(), sites.end()), sites.end());
-  return sites;
+  std::set<std::string> sites;
+  for (const std::string& site : PossibleSites()) {
+    if (IsKnown(site.c_str())) sites.insert(site);
+  }
+  return {sites.begin(), sites.end()};
 }
 
 std::optional<SiteSettings> StoreView::Read(const std::string& site) const {

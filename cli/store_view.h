@@ -11,6 +11,7 @@
 
 #include "cli/settings_source.h"
 #include "model/permissions.h"
+#include "platform/linux_file_manager.h"
 #include "store/store_layout.h"
 
 // The permissions of a site, or those of all sites.
@@ -33,9 +34,9 @@ struct SiteSettings {
 // nothing.
 class StoreView {
  public:
-  // The file manager is borrowed and must outlive this object.
-  explicit StoreView(const SASM::FileManager& files);
+  StoreView();
 
+  [[nodiscard]] const SASM::FileManager& Files() const { return files_; }
   [[nodiscard]] const SASM::StoreLayout& Layout() const { return layout_; }
 
   // What is wrong with the file of the master settings. A user without a home
@@ -70,15 +71,13 @@ class StoreView {
   // The sites on the list, in its order, then the others that have a directory,
   // by name. Some may have no settings.
   [[nodiscard]] std::vector<std::string> PossibleSites() const;
-  // Those on the list that have settings.
-  [[nodiscard]] std::vector<std::string> ListedSitesWithSettings() const;
   // The possible sites that are known. By name, each once.
   [[nodiscard]] std::vector<std::string> KnownSites() const;
   // None for a site without settings. Prints what is wrong with the file.
   [[nodiscard]] std::optional<SiteSettings> Read(const std::string& site) const;
 
  private:
-  const SASM::FileManager& files_;
+  const LinuxFileManager files_;
   SASM::StoreLayout layout_;
   std::unique_ptr<SASM::SettingsDictionary> master_;
   FileProblem problem_;

@@ -8,7 +8,6 @@
 #include "cli/error_messages.h"
 #include "cli/settings_edit.h"
 #include "cli/trusted_locations.h"
-#include "platform/linux_file_manager.h"
 #include "settings/settings_format.h"
 #include "strings/printable_text.h"
 
@@ -18,8 +17,7 @@ bool AreLocations(const std::vector<const char*>& paths) {
   for (const char* path : paths) {
     const std::size_t size = std::string_view(path).size();
     if (size > 0 && size <= SMImplementation::kLongestText) continue;
-    PrintUsageError("this can be no location: ", path);
-    return false;
+    return Refuse("this can be no location: ", path);
   }
   return true;
 }
@@ -62,8 +60,7 @@ bool Untrust(const Paths& paths, Locations* locations) {
 ExitStatus Run(const CommandLine& line,
                bool (*edit)(const Paths& paths, Locations* locations)) {
   if (!AreLocations(line.words)) return kUsageError;
-  const LinuxFileManager files;
-  const StoreView store(files);
+  const StoreView store;
   if (!MayChange(store)) return kFailure;
   Locations locations = store.TrustedLocations();
   if (!edit(line.words, &locations)) return kFailure;

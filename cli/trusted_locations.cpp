@@ -5,7 +5,6 @@
 #include <unordered_set>
 
 #include "store/setting_keys.h"
-#include "strings/printable_text.h"
 
 using SASM::SDIVector;
 using SASM::SettingDataItem;
@@ -32,8 +31,7 @@ void AddLines(const Names& names, const Names& others, const char* what,
   const std::unordered_set<std::string_view> known(others.begin(),
                                                    others.end());
   for (const std::string& name : names) {
-    if (known.contains(name)) continue;
-    lines->push_back(Printable(name) + ": " + what);
+    if (!known.contains(name)) lines->push_back(Line(name, what));
   }
 }
 
@@ -52,9 +50,7 @@ Change ChangeOfLocations(const Names& locations, const StoreView& store) {
   if (locations == former) return change;
   AddLines(locations, former, "trusted", &change.lines);
   AddLines(former, locations, "no longer trusted", &change.lines);
-  if (change.lines.empty()) {
-    change.lines.push_back(std::string(kSubject) + ": put in order");
-  }
+  if (change.lines.empty()) change.lines = {Line(kSubject, "put in order")};
   change.apply = [locations](SettingsManager& manager) {
     SettingDataItem item = ListOf(locations);
     return manager.SetSetting(&item, SASM::kTrustedPaths,

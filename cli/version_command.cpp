@@ -1,15 +1,15 @@
 #include <string>
 
 #include "cli/commands.h"
+#include "cli/plain_text.h"
 #include "plugin/plugin_version.h"
 #include "strings/placeholder.h"
 #include "strings/printable_text.h"
-#include "strings/string_manager.h"
 
 namespace {
 
 // Ids of texts.
-int TextOf(PluginState state) {
+int TextIdOf(PluginState state) {
   switch (state) {
     case PluginState::kInstalled:
       return 51300;
@@ -27,9 +27,7 @@ ExitStatus RunVersion(const CommandLine&) {
   PrintProgramVersion(stdout);
   const char* version = nullptr;
   const PluginState state = FindPluginVersion(&version);
-  StringManager strings;
-  const char* found = strings.GetString(TextOf(state));
-  std::string text = found ? found : "";
+  std::string text = TextOf(TextIdOf(state));
   if (version) text = FillPlaceholder(text, Printable(version));
   std::puts(text.c_str());
   return kSuccess;

@@ -18,6 +18,10 @@ double ReadLimitKb(const char* key, const SettingsDictionary* dictionary) {
   return SASM::NumberOr(Find(key, dictionary), kLimitOfBlock);
 }
 
+void PutBool(const char* key, bool boolean, SettingsDictionary* dictionary) {
+  dictionary->insert(key, SettingDataItem(key, boolean));
+}
+
 }  // namespace
 
 PermissionState StoredState(const Permission& permission,
@@ -68,10 +72,6 @@ double GlobalLimitKb(const SettingsDictionary* master) {
 
 void PutNumber(const char* key, double number, SettingsDictionary* dictionary) {
   dictionary->insert(key, SettingDataItem(key, number));
-}
-
-void PutBool(const char* key, bool boolean, SettingsDictionary* dictionary) {
-  dictionary->insert(key, SettingDataItem(key, boolean));
 }
 
 void PutSiteState(const Permission& permission, PermissionState state,

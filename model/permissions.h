@@ -208,8 +208,6 @@ void PutSiteState(const Permission& permission, PermissionState state,
                   SASM::SettingsDictionary* site);
 void PutGlobalState(const Permission& permission, PermissionState state,
                     SASM::SettingsDictionary* master);
-// Puts a number under a key, or a boolean.
+// Puts a number under a key.
 void PutNumber(const char* key, double number,
                SASM::SettingsDictionary* dictionary);
-void PutBool(const char* key, bool boolean,
-             SASM::SettingsDictionary* dictionary);
