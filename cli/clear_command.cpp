@@ -205,11 +205,8 @@ class ClearCommand {
   }
 
   bool HasOldFile(const SimpleString& directory) const {
-    const SimpleString& base = store_.Layout().BaseDirectory();
-    const std::string path = directory.c_str();
-    const std::string way =
-        path.substr(std::string_view(base.c_str()).size() + 1);
-    return HasFileOlderThan(base.c_str(), way.c_str(), age_seconds_);
+    return HasFileOlderThan(store_.Layout().BaseDirectory().c_str(),
+                            directory.c_str(), age_seconds_);
   }
 
   bool IsKept(const std::string& site) const {

@@ -50,7 +50,7 @@ class OddEntrySearch : private DirectoryWalk {
 
   std::vector<OddEntry> Run() {
     struct stat info;
-    const FileDescriptor start = OpenBelow(directory_.c_str(), "");
+    const FileDescriptor start = OpenBelow(directory_, directory_.c_str());
     if (start.IsOpen() && fstat(start.Get(), &info) == 0) {
       if (info.st_uid != owner_) AddOwner(directory_, info);
       Walk(start.Get(), ".");
@@ -112,9 +112,9 @@ bool ListDirectory(const SimpleString& directory,
   return error == 0 || error == ENOENT;
 }
 
-bool HasFileOlderThan(const char* trusted, const char* way,
+bool HasFileOlderThan(const char* trusted, const char* path,
                       unsigned long age_seconds) {
-  const FileDescriptor directory = OpenBelow(trusted, way);
+  const FileDescriptor directory = OpenBelow(trusted, path);
   if (directory.IsOpen()) {
     return OldFileSearch(age_seconds).Run(directory.Get());
   }

@@ -16,10 +16,10 @@
 [[nodiscard]] bool ListDirectory(const SASM::SimpleString& directory,
                                  std::vector<std::string>* names);
 
-// True when the tree at `way` below the directory `trusted` holds a file, or
-// anything else but a directory, that was changed longer ago than this,
-// or cannot be opened. Follows no link.
-[[nodiscard]] bool HasFileOlderThan(const char* trusted, const char* way,
+// True when the tree at `path` holds a file, or anything else but a directory,
+// that was changed longer ago than this, or cannot be opened. Follows no link
+// below the directory `trusted`, with which `path` begins.
+[[nodiscard]] bool HasFileOlderThan(const char* trusted, const char* path,
                                     unsigned long age_seconds);
 
 // What a user does not expect in a directory of their own.

@@ -88,15 +88,17 @@ const SimpleString& LinuxFileManager::GetDRMLicenseDataDirectory() const {
 }
 
 FileDescriptor LinuxFileManager::OpenTrusted(std::string_view path) const {
+  const std::string whole(path);
   for (const SimpleString* trusted :
        {&GetUserSettingsBaseDirectory(), &GetAssetCacheDirectory(),
         &GetDRMLicenseDataDirectory()}) {
     const std::string_view top = trusted->c_str();
-    if (top.empty() || !path.starts_with(top)) continue;
-    const std::string way(path.substr(top.size()));
-    if (way.starts_with('/')) return OpenBelow(top.data(), way.c_str() + 1);
+    if (!top.empty() && path.starts_with(top) &&
+        path.substr(top.size()).starts_with('/')) {
+      return OpenBelow(top, whole.c_str());
+    }
   }
-  return OpenBelow(std::string(path).c_str(), "");
+  return OpenBelow(whole, whole.c_str());
 }
 
 bool LinuxFileManager::CreateDirectoryAtPath(const SimpleString& path,

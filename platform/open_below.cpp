@@ -12,8 +12,6 @@
 #include <string>
 #include <string_view>
 
-#include "settings/simple_string.h"
-
 namespace {
 
 FileDescriptor OpenWithoutLinks(int directory, const char* path,
@@ -50,20 +48,25 @@ bool IsNoAnswer(int error) {
 
 }  // namespace
 
-FileDescriptor OpenBelow(const char* trusted, const char* way) {
-  if (!*trusted) {  // or "/" would be
+FileDescriptor OpenBelow(std::string_view trusted, const char* path) {
+  if (trusted.empty()) {  // or "/" would be
     errno = ENOENT;
+    return FileDescriptor();
+  }
+  const bool is_below = std::string_view(path).starts_with(trusted);
+  const char* way = is_below ? path + trusted.size() : path;
+  if (!is_below || (*way && *way != '/')) {
+    errno = EXDEV;
     return FileDescriptor();
   }
   // Common case: no link leads to `trusted` either.
   if (!std::strstr(way, "..")) {
-    FileDescriptor reached = OpenWithoutLinks(
-        AT_FDCWD, SASM::SimpleString::Joined({trusted, "/", way}).c_str());
+    FileDescriptor reached = OpenWithoutLinks(AT_FDCWD, path);
     if (reached.IsOpen() || (errno != ELOOP && !IsNoAnswer(errno))) {
       return reached;
     }
   }
-  FileDescriptor top = OpenPlace(AT_FDCWD, trusted);
+  FileDescriptor top = OpenPlace(AT_FDCWD, std::string(trusted).c_str());
   while (*way == '/') ++way;
   if (!top.IsOpen() || !*way) return top;
   FileDescriptor reached = OpenWithoutLinks(top.Get(), way, RESOLVE_BENEATH);

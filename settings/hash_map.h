@@ -64,7 +64,7 @@ class HashMap {
 
   // The key's node, or end().
   iterator find(const K& key) const {
-    return iterator(this, FindNode(key, Hash(key)));
+    return iterator(this, FindNode(key));
   }
 
   // Stores the value under the key, replacing the value of a key that is
@@ -124,10 +124,11 @@ class HashMap {
   }
 
   // The sentinel when the key is absent.
-  Node* FindNode(const K& key, unsigned int hash) const {
+  Node* FindNode(const K& key) const {
     if (!index_.empty()) [[unlikely]] {
       return FindInIndex(key);
     }
+    const unsigned int hash = Hash(key);
     const unsigned int bucket = hash % kBucketCount;
     for (Node* node = buckets_[bucket]; node && node->bucket == bucket;
          node = node->next) {
@@ -138,9 +139,9 @@ class HashMap {
 
   template <typename Key>
   Node* FindOrAddNode(Key&& key) {
-    const unsigned int hash = Hash(key);
-    Node* node = FindNode(key, hash);
+    Node* node = FindNode(key);
     if (node == &sentinel_) {
+      const unsigned int hash = Hash(key);
       node =
           new Node{K(std::forward<Key>(key)), V(), hash % kBucketCount, hash};
       Link(node);

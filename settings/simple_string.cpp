@@ -30,13 +30,16 @@ SimpleString SimpleString::FromBytes(const unsigned char* bytes,
   return SimpleString(Adopted{text});
 }
 
-SimpleString SimpleString::Joined(std::initializer_list<const char*> parts) {
+SimpleString SimpleString::Joined(
+    std::initializer_list<std::string_view> parts) {
   std::size_t size = 1;
-  for (const char* part : parts) size += std::strlen(part);
+  for (const std::string_view part : parts) size += part.size();
   char* joined = new char[size];
   char* end = joined;
+  for (const std::string_view part : parts) {
+    end += part.copy(end, part.size());
+  }
   *end = '\0';
-  for (const char* part : parts) end = stpcpy(end, part);
   return SimpleString(Adopted{joined});
 }
 

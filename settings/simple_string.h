@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <string_view>
 #include <utility>
 
 namespace SASM {
@@ -28,8 +29,8 @@ class SimpleString {
   // The first `size` bytes, cut at the first zero byte among them.
   static SimpleString FromBytes(const unsigned char* bytes, std::size_t size);
 
-  // The parts one after another. None is null.
-  static SimpleString Joined(std::initializer_list<const char*> parts);
+  // The parts one after another; none holds a zero byte.
+  static SimpleString Joined(std::initializer_list<std::string_view> parts);
 
   // A new array with a copy of `text` and its zero byte; of the empty text for
   // null. The caller frees it with delete[].

@@ -70,7 +70,7 @@ bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
 
 // Without asking for the size of a file of one site, which is small.
 bool ReadOldFile(const FileDescriptor& file, FileImage* image) {
-  constexpr std::size_t kSmall = 4096;
+  constexpr std::size_t kSmall = 1024;
   image->bytes.reset(new unsigned char[kSmall]);
   const ssize_t count = RetryInterrupted(
       [&] { return read(file.Get(), image->bytes.get(), kSmall); });

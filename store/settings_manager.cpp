@@ -174,13 +174,14 @@ bool SettingsManager::WriteFileOf(const SimpleString& domain) {
 }
 
 FileDescriptor SettingsManager::OpenDirectoryOf(const SimpleString& domain) {
-  const SimpleString& base = mLayout.BaseDirectory();
-  const SimpleString way = mLayout.WayToDirectoryOf(domain);
-  FileDescriptor directory = OpenBelow(base.c_str(), way.c_str());
+  const SimpleString path = mLayout.DirectoryOf(domain);
+  const auto open = [&] {
+    return OpenBelow(mLayout.BaseDirectory().c_str(), path.c_str());
+  };
+  FileDescriptor directory = open();
   if (directory.IsOpen() || errno != ENOENT) return directory;
-  (void)mFileManager->CreateDirectoryAtPath(mLayout.DirectoryOf(domain),
-                                            kThisDirectory);
-  return OpenBelow(base.c_str(), way.c_str());
+  (void)mFileManager->CreateDirectoryAtPath(path, kThisDirectory);
+  return open();
 }
 
 bool SettingsManager::DeleteDomainSettingsFile(const SimpleString& domain,

@@ -42,15 +42,15 @@ bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,
 
 void SettingsManager::RemoveEmptyDirectoriesAbove(const SimpleString& site) {
   if (!mLayout.IsOnDisk()) return;
-  std::string way = mLayout.WayToDirectoryOf(site).c_str();
+  std::string path = mLayout.DirectoryOf(site).c_str();
   const std::string_view name = site.c_str();
   for (auto left = std::ranges::count(name, '/'); left > 0; --left) {
-    way.resize(way.rfind('/'));
-    const std::size_t slash = way.rfind('/');
+    path.resize(path.rfind('/'));
+    const std::size_t slash = path.rfind('/');
     const FileDescriptor holder = OpenBelow(mLayout.BaseDirectory().c_str(),
-                                            way.substr(0, slash).c_str());
+                                            path.substr(0, slash).c_str());
     if (!holder.IsOpen()) return;
-    if (unlinkat(holder.Get(), &way[slash + 1], AT_REMOVEDIR) != 0) return;
+    if (unlinkat(holder.Get(), &path[slash + 1], AT_REMOVEDIR) != 0) return;
   }
 }
 

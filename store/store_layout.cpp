@@ -40,16 +40,12 @@ SimpleString StoreLayout::Join(const SimpleString& directory,
                                name.c_str()});
 }
 
-SimpleString StoreLayout::WayToDirectoryOf(const SimpleString& domain) const {
-  if (domain == MasterDomainName()) return kSettingsPath;
-  if (!IsSiteName(domain)) return {};
-  return SimpleString::Joined({kSettingsPath,
+SimpleString StoreLayout::DirectoryOf(const SimpleString& domain) const {
+  if (domain == MasterDomainName()) return mSettingsDirectory;
+  if (!IsOnDisk() || !IsSiteName(domain)) return {};
+  return SimpleString::Joined({mSettingsDirectory.c_str(),
                                mFileManager->GetPathSeparator().c_str(),
                                kDomainDirectoryPrefix, domain.c_str()});
-}
-
-SimpleString StoreLayout::DirectoryOf(const SimpleString& domain) const {
-  return Join(mBaseDirectory, WayToDirectoryOf(domain));
 }
 
 SimpleString StoreLayout::SettingsFileOf(const SimpleString& domain) const {

@@ -31,8 +31,6 @@ class StoreLayout {
   // The directory of a domain's settings file; for the master domain, the
   // settings directory.
   [[nodiscard]] SimpleString DirectoryOf(const SimpleString& domain) const;
-  // The same, from the base directory on.
-  [[nodiscard]] SimpleString WayToDirectoryOf(const SimpleString& domain) const;
   [[nodiscard]] SimpleString SettingsFileOf(const SimpleString& domain) const;
   // The name a domain's settings file carries inside.
   [[nodiscard]] SimpleString DictionaryNameOf(const SimpleString& domain) const;

@@ -22,9 +22,8 @@ class SiteSearch : private DirectoryWalk {
   SiteSearch() : DirectoryWalk(kThereAndBack) {}
 
   std::vector<std::string> Run(const StoreLayout& layout) {
-    const FileDescriptor settings =
-        OpenBelow(layout.BaseDirectory().c_str(),
-                  layout.WayToDirectoryOf(MasterDomainName()).c_str());
+    const FileDescriptor settings = OpenBelow(
+        layout.BaseDirectory().c_str(), layout.SettingsDirectory().c_str());
     if (settings.IsOpen()) Walk(settings.Get(), kStart);
     std::ranges::sort(sites_);
     return std::move(sites_);
