@@ -1,10 +1,9 @@
 #include <clocale>
 #include <cstdlib>
-#include <vector>
 
 #include "app/dialogs.h"
+#include "app/lists.h"
 #include "app/removal_question.h"
-#include "app/widget_helpers.h"
 #include "strings/languages.h"
 #include "tests/app/panel_test.h"
 
@@ -58,21 +57,23 @@ void ExpectNothingClipped(GtkWidget* widget, gpointer) {
 
 }  // namespace
 
+// In a language, with or without a theme.
 class LayoutTest : public PanelTest,
-                   public testing::WithParamInterface<const char*> {
+                   public testing::WithParamInterface<std::tuple<int, bool>> {
  protected:
-  LayoutTest() { home_.AddSites({"example.com", "shop.example.com"}); }
-
-  void Open(const char* theme) {
-    const std::string locale = GetParam();
-    setenv("GTK2_RC_FILES", theme, 1);
+  void SetUp() override {
+    home_.AddSites({"example.com", "shop.example.com"});
+    const auto [language, has_theme] = GetParam();
+    const std::string locale = NCPStrings::kLanguages[language].locale;
+    setenv("GTK2_RC_FILES", has_theme ? kUsualTheme : kBareTheme, 1);
     setenv("LC_ALL", (locale + ".UTF-8").c_str(), 1);
     ASSERT_TRUE(std::setlocale(LC_ALL, ""))
         << "there are no locales: run these tests as ./test does";
     gtk_init(nullptr, nullptr);
     g_object_set(gtk_settings_get_default(), "gtk-font-name", kLargestFont,
                  nullptr);
-    if (locale == "he_IL") gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
+    // As for a user whose own language is written from right to left.
+    gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
     Start();
   }
 
@@ -102,11 +103,9 @@ class LayoutTest : public PanelTest,
     Check(dialog);
     gtk_widget_hide(dialog);
   }
-
-  void CheckAll();
 };
 
-void LayoutTest::CheckAll() {
+TEST_P(LayoutTest, ShowsEveryTextWhole) {
   for (int page = 0; page < 4; ++page) {
     SCOPED_TRACE(page);
     GoToPage(page);
@@ -133,27 +132,11 @@ void LayoutTest::CheckAll() {
   }
 }
 
-TEST_P(LayoutTest, ShowsEveryTextWhole) {
-  Open(kUsualTheme);
-  CheckAll();
-}
-
-TEST_P(LayoutTest, ShowsEveryTextWholeWithoutATheme) {
-  Open(kBareTheme);
-  CheckAll();
-}
-
-std::vector<const char*> Locales() {
-  std::vector<const char*> locales;
-  for (const auto& language : NCPStrings::kLanguages) {
-    locales.push_back(language.locale);
-  }
-  // English, also where the locale is written from right to left.
-  locales.push_back("he_IL");
-  return locales;
-}
-
-INSTANTIATE_TEST_SUITE_P(, LayoutTest, testing::ValuesIn(Locales()),
-                         [](const auto& locale) {
-                           return std::string(locale.param);
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    , LayoutTest,
+    testing::Combine(testing::Range(0, int{NCPStrings::kLanguageCount}),
+                     testing::Bool()),
+    [](const auto& with) {
+      return NCPStrings::kLanguages[std::get<0>(with.param)].locale +
+             std::string(std::get<1>(with.param) ? "" : "_without_theme");
+    });

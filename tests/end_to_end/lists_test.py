@@ -193,6 +193,11 @@ class OneListTest(SiteListTest):
         press(KEYS[ALLOW] + " Return")
         self.expect_state(A, ALLOW)
         self.add(B, ASK)
+        # Of a row that is not selected: selects it.
+        self.select(A, C)
+        click_at(self.get(ASK, "table cell"))
+        self.expect_selected(B)
+        self.assertFalse(is_in(self.get(A, "table cell"), "SELECTED"))
         before = self.disk()
         for gap in ("0.02", "0.2", "0.5"):
             self.select(C, B)
@@ -266,16 +271,21 @@ class TrustedLocationsTest(PanelTest):
         self.select("/b", "/d")
         press("Delete")
         self.expect_locations("/c", self.folder, self.folder)
-        self.select("/c")
-        press("Return")
-        write("/e")
-        click_at(self.get("Close", "push button"))
-        self.expect_locations("/e", self.folder, self.folder)
-        self.see(MAIN_WINDOW)
-        self.click("Trusted Location Settings…")
-        self.see("Trusted Location Settings")
+        # In whatever way the dialog is left.
+        for old, new in (("/c", "/e"), ("/e", "/f")):
+            self.select(old)
+            press("Return")
+            write(new)
+            if new == "/e":
+                press("ctrl+w")
+            else:
+                click_at(self.get("Close", "push button"))
+            self.expect_locations(new, self.folder, self.folder)
+            self.see(MAIN_WINDOW)
+            self.click("Trusted Location Settings…")
+            self.see("Trusted Location Settings")
         self.add_folder(str(self.home))
-        self.expect_locations("/e", self.folder, self.folder, str(self.home))
+        self.expect_locations("/f", self.folder, self.folder, str(self.home))
         self.close()
         self.assertNotIn("recently-used.xbel",
                          os.listdir(os.environ["XDG_DATA_HOME"]))

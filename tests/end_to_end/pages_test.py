@@ -5,7 +5,7 @@ import subprocess
 from gi.repository import Atspi
 from home import CACHE, LICENCE, MASTER, data_of, file_of, settings
 from panel import (MAIN_WINDOW, PROGRAM, PanelTest, find_all, is_in, place_of,
-                   press)
+                   press, send)
 
 ASK = "Ask me before allowing new sites to save information on this computer"
 BLOCK = "Block all sites from storing information on this computer"
@@ -94,6 +94,11 @@ class AllSitesTest(PanelTest):
             self.assertEqual([is_in(node, "SENSITIVE") for node in users],
                              [not is_blocked] * 3)
         self.assertEqual(self.read(file_of(B)), before)
+        # Brings the list to the front again.
+        send("search", "--name", MAIN_WINDOW, "windowactivate")
+        self.see(MAIN_WINDOW)
+        self.click(title + "…")
+        self.see(title)
 
     # Showing a choice presses its button, as a click does.
     def test_pages_that_are_only_looked_at_write_nothing(self):
