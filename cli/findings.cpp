@@ -49,8 +49,8 @@ class FaultSearch {
   }
 
   void AddDamage(const SimpleString& file, const FileProblem& problem) {
-    if (problem.Exists())
-      AddPath(kDamagedFile, file.c_str(), problem.Message());
+    if (!problem.Exists()) return;
+    AddPath(kDamagedFile, file.c_str(), problem.Message());
   }
 
   bool HasFile(const std::string& site) const {

@@ -141,9 +141,13 @@ inline constexpr Permission kPermissions[] = {
      .new_site_label_id = 41201},
 };
 inline constexpr std::size_t kPermissionCount = std::size(kPermissions);
-static_assert(kPermissions[kStorage].kind == kStorage &&
-              kPermissions[kCamera].kind == kCamera &&
-              kPermissions[kNetwork].kind == kNetwork);
+static_assert([] {
+  unsigned int index = 0;
+  for (const Permission& permission : kPermissions) {
+    if (permission.kind != index++) return false;
+  }
+  return true;
+}());
 
 // The state that two booleans of a site stand for.
 [[nodiscard]] constexpr PermissionState StateOf(bool always, bool allow) {

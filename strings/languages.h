@@ -85,4 +85,8 @@ inline constexpr std::size_t kLanguageCount = std::size(kLanguages);
 inline constexpr const char* kTraditionalChineseLocales[] = {"zh_HK", "zh_MO",
                                                              "zh_TW"};
 
+// The languages in which no line ends with a word of one letter.
+inline constexpr Language kWithOneLetterWords[] = {
+    Language::kCzech, Language::kPolish, Language::kRussian};
+
 }  // namespace NCPStrings

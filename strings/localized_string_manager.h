@@ -6,7 +6,7 @@ class LocalizedStringManager {
  public:
   virtual ~LocalizedStringManager() = default;
 
-  // An index of NCPStrings::Language, 0 to 15.
+  // An index of NCPStrings::Language.
   virtual int GetCurrentSystemLanguageID() = 0;
 
   // The text under `id` in the current language: a constant UTF-8 text that

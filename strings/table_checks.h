@@ -40,10 +40,6 @@ inline constexpr unsigned int kWrappedTexts[] = {
     11501, 11502, 21002, 21101, 21301, 41002, 41101, 41105, 41106, 51101, 51206,
     51401, 61006, 61008, 61010, 71001, 71003, 71008, 71009, 81001, 84001};
 
-// In these no line ends with a word of one letter.
-inline constexpr Language kWithOneLetterWords[] = {
-    Language::kCzech, Language::kPolish, Language::kRussian};
-
 // A compiler limits the steps that a constant may take, and these loops read
 // every byte of a language: they call nothing for a byte of ASCII.
 constexpr bool IsUtf8(std::string_view text) {

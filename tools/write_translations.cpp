@@ -13,21 +13,10 @@
 #include <string>
 #include <vector>
 
+#include "strings/fixed_language.h"
 #include "strings/languages.h"
-#include "strings/localized_string_manager.h"
 
 namespace {
-
-class FixedLanguage : public LocalizedStringManager {
- public:
-  explicit FixedLanguage(NCPStrings::Language language) : language_(language) {}
-  int GetCurrentSystemLanguageID() override {
-    return static_cast<int>(language_);
-  }
-
- private:
-  NCPStrings::Language language_;
-};
 
 // A language and a locale that speaks it; the default language has none.
 struct Translation {

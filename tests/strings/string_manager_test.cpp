@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "strings/fixed_language.h"
 #include "strings/languages.h"
 
 namespace {
@@ -26,15 +27,12 @@ extern "C" char* setlocale(int category, const char* name) noexcept {
 
 namespace {
 
-// Texts in a language of the test's choice.
-class Speaker : public LocalizedStringManager {
- public:
-  explicit Speaker(int language) : language_(language) {}
-  int GetCurrentSystemLanguageID() override { return language_; }
+using NCPStrings::Language;
 
- private:
-  int language_;
-};
+// Texts in a language of the test's choice.
+const char* TextOf(int id, Language language = Language::kEnglish) {
+  return FixedLanguage(language).GetString(id);
+}
 
 TEST(Language, IsChosenByTheLocaleName) {
   const std::pair<int, std::vector<const char*>> cases[] = {
@@ -61,7 +59,7 @@ TEST(Language, IsAskedForOnceAManagerAndNotBeforeItIsNeeded) {
   questions = 0;
   StringManager manager;
   locale_name = "de_DE";
-  EXPECT_STREQ(manager.GetString(21200), Speaker(2).GetString(21200));
+  EXPECT_STREQ(manager.GetString(21200), TextOf(21200, Language::kGerman));
   locale_name = "fr_FR";
   EXPECT_EQ(manager.GetCurrentSystemLanguageID(), 2);
   EXPECT_EQ(questions, 1);
@@ -69,9 +67,9 @@ TEST(Language, IsAskedForOnceAManagerAndNotBeforeItIsNeeded) {
 }
 
 TEST(Texts, AreFoundByTheirIdsOnly) {
-  EXPECT_STREQ(Speaker(0).GetString(11000), "OK");
+  EXPECT_STREQ(TextOf(11000), "OK");
   for (const int id : {10999, 11016, 92004, 0, -1, -2147483647 - 1}) {
-    EXPECT_EQ(Speaker(0).GetString(id), nullptr) << id;
+    EXPECT_EQ(TextOf(id), nullptr) << id;
   }
 }
 
@@ -79,10 +77,10 @@ TEST(Texts, HoldTheAddressesOfTheLanguage) {
   const std::string site = "www.tessary.example/go/";
   const std::string help = "http://" + site + "learn_cp_settings_";
   const std::string updates = "https://" + site + "corvane-player-updates";
-  EXPECT_EQ(Speaker(0).GetString(13000), help + "privacy_controls_en");
-  EXPECT_EQ(Speaker(15).GetString(13008), help + "advanced_tw");
-  EXPECT_EQ(Speaker(0).GetString(13009), updates);
-  EXPECT_EQ(Speaker(10).GetString(13009), updates + "-br");
+  EXPECT_EQ(TextOf(13000), help + "privacy_controls_en");
+  EXPECT_EQ(TextOf(13008, Language::kTraditionalChinese), help + "advanced_tw");
+  EXPECT_EQ(TextOf(13009), updates);
+  EXPECT_EQ(TextOf(13009, Language::kPortuguese), updates + "-br");
 }
 
 }  // namespace
