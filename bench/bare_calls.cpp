@@ -75,19 +75,20 @@ void WalkTree(const std::string& path, Visit visit, Leave leave) {
 
 }  // namespace
 
-void RewriteFile(const char* path, const char* bytes, std::size_t size) {
-  unlink(path);
-  const int file = open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-  Check(write(file, bytes, size) == static_cast<ssize_t>(size), path);
+void RewriteFile(const std::string& path, std::string_view bytes) {
+  unlink(path.c_str());
+  const int file =
+      open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+  Check(write(file, bytes.data(), bytes.size()) ==
+            static_cast<ssize_t>(bytes.size()),
+        path.c_str());
   close(file);
 }
 
-std::size_t ReadFile(const char* path, std::vector<char>* buffer) {
-  const int file = open(path, O_RDONLY | O_CLOEXEC);
-  const ssize_t size = read(file, buffer->data(), buffer->size());
+void ReadFile(const std::string& path, std::vector<char>* buffer) {
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  Check(read(file, buffer->data(), buffer->size()) >= 0, path.c_str());
   close(file);
-  Check(size >= 0, path);
-  return static_cast<std::size_t>(size);
 }
 
 void RemoveTree(const std::string& path) {
@@ -115,22 +116,25 @@ std::size_t SizeOfTree(const std::string& path) {
   return sum;
 }
 
-void RunProgram(const std::vector<std::string>& arguments) {
+pid_t StartProgram(std::vector<std::string> arguments) {
   std::vector<char*> argv;
-  argv.reserve(arguments.size() + 1);
-  for (const std::string& argument : arguments) {
-    argv.push_back(const_cast<char*>(argument.c_str()));
-  }
+  for (std::string& argument : arguments) argv.push_back(argument.data());
   argv.push_back(nullptr);
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null",
                                    O_WRONLY, 0);
   pid_t child = 0;
-  const int error =
-      posix_spawnp(&child, argv[0], &actions, nullptr, argv.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  int status = 0;
-  Check(error == 0 && waitpid(child, &status, 0) == child && status == 0,
+  Check(posix_spawnp(&child, argv[0], &actions, nullptr, argv.data(),
+                     environ) == 0,
         argv[0]);
+  posix_spawn_file_actions_destroy(&actions);
+  return child;
+}
+
+void RunProgram(const std::vector<std::string>& arguments) {
+  const pid_t child = StartProgram(arguments);
+  int status = 0;
+  Check(waitpid(child, &status, 0) == child && status == 0,
+        arguments[0].c_str());
 }

@@ -59,75 +59,54 @@ void MeasureOneChange(const SiteHome& home, sqlite3* database) {
   const std::string update =
       "UPDATE settings SET always = 1 - always WHERE site = '" + site + "'";
   bool blocks = false;
-  Measure(
-      {"permission changed 200 times", home.Sites().size()},
-      {{kPanel, Times(kChanges,
-                      [&] {
-                        blocks = !blocks;
-                        PermissionSetting(kPermissions[kCamera], site.c_str())
-                            .setState(StateOf(blocks, false));
-                      })},
-       {kFloor,
-        Times(2 * kChanges,
-              [&] { RewriteFile(file.c_str(), image.data(), image.size()); })},
-       {"SQLite", Times(kChanges, [&] { Execute(database, update); })}});
+  const auto change = [&] {
+    blocks = !blocks;
+    PermissionSetting(kPermissions[kCamera], site.c_str())
+        .setState(StateOf(blocks, false));
+  };
+  Measure({"permission changed 200 times", home.Sites().size()},
+          {{kPanel, Times(kChanges, change)},
+           {kFloor, Times(2 * kChanges, [&] { RewriteFile(file, image); })},
+           {"SQLite", Times(kChanges, [&] { Execute(database, update); })}});
 }
 
 void MeasureBlockAll(const SiteHome& home, sqlite3* database) {
-  const std::string& master = home.MasterImage();
   const std::string image = image::DefaultSiteFile(home.Sites()[0]);
-  Measure(
-      {"storage blocked for all sites", home.Sites().size()},
-      {{kPanel,
-        [] {
-          (void)SetGlobalState(kPermissions[kStorage],
-                               kPermissionStateAlwaysDeny);
-        }},
-       {kFloor,
-        [&] {
-          RewriteFile(home.MasterPath().c_str(), master.data(), master.size());
-          for (const SiteHome::Paths& site : home.SitePaths()) {
-            RewriteFile(site.settings_file.c_str(), image.data(), image.size());
-            unlink(site.storage.c_str());
-          }
-        }},
-       {"SQLite",
-        [&] { Execute(database, "UPDATE settings SET klimit = -1"); }}});
-}
-
-// One in a hundred, as one action.
-void MeasureRemovedSites(const SiteHome& home) {
-  const auto for_each_removed = [&](auto action) {
-    for (std::size_t i = 0; i < home.Sites().size(); i += 100) action(i);
-  };
-  const auto restore = [&] {
-    for_each_removed([&](std::size_t i) { home.RestoreSite(i); });
-    home.RestoreMasterFile();
-  };
-  Measure({"1 of 100 sites removed", home.Sites().size()},
+  Measure({"storage blocked for all sites", home.Sites().size()},
           {{kPanel,
-            [&] {
-              SASM::SettingsManager* manager = SettingBase::mSettingsManager;
-              const SASM::ListWriteGuard guard(manager);
-              for_each_removed([&](std::size_t i) {
-                manager->RemoveDomainInformation(home.Sites()[i].c_str(), true,
-                                                 true);
-              });
-            },
-            [&] {
-              restore();
-              OpenFreshStore();
+            [] {
+              (void)SetGlobalState(kPermissions[kStorage],
+                                   kPermissionStateAlwaysDeny);
             }},
            {kFloor,
             [&] {
-              for_each_removed([&](std::size_t i) {
-                RemoveTree(home.SitePaths()[i].storage);
-                RemoveTree(home.SitePaths()[i].settings_directory);
-              });
-              RewriteFile(home.MasterPath().c_str(), home.MasterImage().data(),
-                          home.MasterImage().size() * 99 / 100);
-            },
-            restore}});
+              RewriteFile(home.MasterPath(), home.MasterImage());
+              for (const SiteHome::Paths& site : home.SitePaths()) {
+                RewriteFile(site.settings_file, image);
+                unlink(site.storage.c_str());
+              }
+            }},
+           {"SQLite",
+            [&] { Execute(database, "UPDATE settings SET klimit = -1"); }}});
+}
+
+// As one action.
+void MeasureRemovedSites(const SiteHome& home) {
+  constexpr std::size_t kStep = 100;
+  const auto remove = [&] {
+    SASM::SettingsManager* manager = SettingBase::mSettingsManager;
+    const SASM::ListWriteGuard guard(manager);
+    for (std::size_t i = 0; i < home.Sites().size(); i += kStep) {
+      manager->RemoveDomainInformation(home.Sites()[i].c_str(), true, true);
+    }
+  };
+  const auto restore = [&] {
+    home.RestoreSites(kStep);
+    OpenFreshStore();
+  };
+  Measure({"1 of 100 sites removed", home.Sites().size()},
+          {{kPanel, remove, restore},
+           {kFloor, [&] { home.RemoveSites(kStep); }, restore}});
 }
 
 }  // namespace

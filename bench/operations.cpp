@@ -18,25 +18,17 @@ std::size_t g_allocations = 0;
 }  // namespace
 
 // In front of the C library's own.
-extern "C" {
-void* __libc_malloc(std::size_t size);                     // NOLINT
-void* __libc_calloc(std::size_t nmemb, std::size_t size);  // NOLINT
-void* __libc_realloc(void* ptr, std::size_t size);         // NOLINT
+#define COUNTED(name, parameters, arguments)                     \
+  void* __libc_##name parameters; /* NOLINT */                   \
+  __attribute__((visibility("default"))) void* name parameters { \
+    ++g_allocations;                                             \
+    return __libc_##name arguments;                              \
+  }
 
-__attribute__((visibility("default"))) void* malloc(std::size_t size) {
-  ++g_allocations;
-  return __libc_malloc(size);
-}
-__attribute__((visibility("default"))) void* calloc(std::size_t nmemb,
-                                                    std::size_t size) {
-  ++g_allocations;
-  return __libc_calloc(nmemb, size);
-}
-__attribute__((visibility("default"))) void* realloc(void* ptr,
-                                                     std::size_t size) {
-  ++g_allocations;
-  return __libc_realloc(ptr, size);
-}
+extern "C" {
+COUNTED(malloc, (std::size_t size), (size))
+COUNTED(calloc, (std::size_t count, std::size_t size), (count, size))
+COUNTED(realloc, (void* memory, std::size_t size), (memory, size))
 }
 
 namespace {
@@ -47,33 +39,27 @@ struct Operation {
   const char* name;
   std::size_t sites;
   void (*prepare)(SiteHome* home, std::size_t times);
-  void (*run)(const SiteHome& home, std::size_t times);
+  // The first time is the 0th.
+  void (*run)(const SiteHome& home, std::size_t time);
 };
 
 GnomeTCCapplet* g_panel = nullptr;
-std::string g_tree;
-
-void NoPreparation(SiteHome*, std::size_t) {}
 
 void StartStore(SiteHome*, std::size_t) { OpenFreshStore(); }
 
-void ReadSites(const SiteHome& home, std::size_t times) {
-  for (std::size_t i = 0; i < times; ++i) {
-    SettingBase::mSettingsManager->EnsureSettingsAreLoadedForDomain(
-        home.Sites()[i].c_str());
-  }
+void ReadSite(const SiteHome& home, std::size_t index) {
+  SettingBase::mSettingsManager->EnsureSettingsAreLoadedForDomain(
+      home.Sites()[index].c_str());
 }
 
 void LoadSite(SiteHome* home, std::size_t) {
-  StartStore(nullptr, 0);
-  ReadSites(*home, 1);
+  OpenFreshStore();
+  ReadSite(*home, 0);
 }
 
-void ChangeSite(const SiteHome& home, std::size_t times) {
-  for (std::size_t i = 0; i < times; ++i) {
-    PermissionSetting(kPermissions[kCamera], home.Sites()[0].c_str())
-        .setState(kPermissionStateAlwaysAllow);
-  }
+void ChangeSite(const SiteHome& home, std::size_t) {
+  PermissionSetting(kPermissions[kCamera], home.Sites()[0].c_str())
+      .setState(kPermissionStateAlwaysAllow);
 }
 
 void StartWindow(SiteHome*, std::size_t) {
@@ -87,36 +73,35 @@ void StartWindow(SiteHome*, std::size_t) {
 }
 
 template <int page>
-void Refill(const SiteHome&, std::size_t times) {
-  for (std::size_t i = 0; i < times; ++i) update_notebook_page(g_panel, page);
+void Refill(const SiteHome&, std::size_t) {
+  update_notebook_page(g_panel, page);
 }
 
 void MakeTree(SiteHome* home, std::size_t files) {
-  g_tree = *home / "tree";
   for (std::size_t i = 0; i < files; ++i) {
     home->Write("tree/" + std::to_string(i), "");
   }
 }
 
-void RemoveMadeTree(const SiteHome&, std::size_t) {
-  LinuxFileManager files;
-  Check(files.RemoveFileAtPath(g_tree.c_str()), "remove");
+// The first time removes all files.
+void RemoveTreeOnce(const SiteHome& home, std::size_t time) {
+  if (time > 0) return;
+  const std::string tree = home / "tree";
+  Check(LinuxFileManager().RemoveFileAtPath(tree.c_str()), "remove");
 }
 
-void OpenStores(const SiteHome&, std::size_t times) {
-  for (std::size_t i = 0; i < times; ++i) {
-    LinuxFileManager files;
-    const SASM::SettingsManager manager(&files);
-  }
+void OpenOtherStore(const SiteHome&, std::size_t) {
+  LinuxFileManager files;
+  const SASM::SettingsManager manager(&files);
 }
 
 constexpr Operation kOperations[] = {
-    {"start", 0, NoPreparation, OpenStores},
-    {"read", kSites, StartStore, ReadSites},
+    {"start", 0, [](SiteHome*, std::size_t) {}, OpenOtherStore},
+    {"read", kSites, StartStore, ReadSite},
     {"change", 1, LoadSite, ChangeSite},
     {"refill", kSites, StartWindow, Refill<kPrivacyPage>},
     {"refill-with-sizes", kSites, StartWindow, Refill<kStoragePage>},
-    {"remove", 1, MakeTree, RemoveMadeTree},
+    {"remove", 1, MakeTree, RemoveTreeOnce},
 };
 
 }  // namespace
@@ -131,7 +116,7 @@ int main(int argc, char** argv) {
     operation.prepare(&home, times);
     (void)getppid();
     const std::size_t before = g_allocations;
-    operation.run(home, times);
+    for (std::size_t i = 0; i < times; ++i) operation.run(home, i);
     const std::size_t after = g_allocations;
     (void)getppid();
     std::printf("%zu\n", after - before);

@@ -2,9 +2,7 @@
 // to the end.
 #include <X11/Xlib.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstring>
 #include <filesystem>
@@ -44,14 +42,9 @@ class WindowWatch {
   Display* display_;
 };
 
-void RunToShownWindow(WindowWatch* watch, std::vector<std::string> arguments) {
-  std::vector<char*> argv;
-  for (std::string& argument : arguments) argv.push_back(argument.data());
-  argv.push_back(nullptr);
-  pid_t child = 0;
-  Check(
-      posix_spawn(&child, argv[0], nullptr, nullptr, argv.data(), environ) == 0,
-      argv[0]);
+void RunToShownWindow(WindowWatch* watch,
+                      const std::vector<std::string>& arguments) {
+  const pid_t child = StartProgram(arguments);
   watch->WaitForShownWindow();
   kill(child, SIGKILL);
   Check(waitpid(child, nullptr, 0) == child, "waitpid");
@@ -60,11 +53,9 @@ void RunToShownWindow(WindowWatch* watch, std::vector<std::string> arguments) {
 
 void ReadAll(const std::string& master,
              const std::vector<SiteHome::Paths>& sites) {
-  std::vector<char> buffer(65536 + std::filesystem::file_size(master));
-  ReadFile(master.c_str(), &buffer);
-  for (const SiteHome::Paths& site : sites) {
-    ReadFile(site.settings_file.c_str(), &buffer);
-  }
+  std::vector<char> buffer(std::filesystem::file_size(master));
+  ReadFile(master, &buffer);
+  ReadSiteFiles(sites);
 }
 
 // A start of the toolkit that reads the same files, measures the same
@@ -75,10 +66,7 @@ void ShowWindow(const std::string& home, std::size_t count) {
   char** argv = nullptr;
   GnomeTCCapplet* panel = StartWithoutStore(&argc, &argv);
   const SiteHome::Names sites = SiteHome::NamesOf(count);
-  std::vector<SiteHome::Paths> paths;
-  for (const std::string& site : sites) {
-    paths.push_back(SiteHome::PathsOf(home, site));
-  }
+  const auto paths = SiteHome::PathsOf(home, sites);
   ReadAll(home + "/" + SiteHome::MasterFile(), paths);
   FillBare(FindSiteList(panel, kStorageList), sites, paths);
   gtk_widget_show(panel->window);

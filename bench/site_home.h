@@ -16,9 +16,11 @@ class SiteHome : public TemporaryHome {
   // Whatever was there goes; `count` known sites with default settings come,
   // each with a stored file.
   void MakeSites(std::size_t count);
-  // Puts back what MakeSites made of a site.
-  void RestoreSite(std::size_t index) const;
-  void RestoreMasterFile() const { Write(MasterFile(), MasterImage()); }
+  // Removes each `step`-th site by bare calls, and its share of the master
+  // file.
+  void RemoveSites(std::size_t step) const;
+  // Puts back what MakeSites made of these, and of the master file.
+  void RestoreSites(std::size_t step) const;
 
   [[nodiscard]] const Names& Sites() const { return sites_; }
   [[nodiscard]] const std::vector<Paths>& SitePaths() const { return paths_; }
@@ -30,8 +32,8 @@ class SiteHome : public TemporaryHome {
   // domain, as users meet them.
   [[nodiscard]] static Names NamesOf(std::size_t count);
   // In a home directory, which another process may have made.
-  [[nodiscard]] static Paths PathsOf(const std::string& home,
-                                     const std::string& site);
+  [[nodiscard]] static std::vector<Paths> PathsOf(const std::string& home,
+                                                  const Names& sites);
 
  private:
   void AddStoredFile(std::size_t index) const;
@@ -40,3 +42,6 @@ class SiteHome : public TemporaryHome {
   std::vector<Paths> paths_;
   std::string master_;
 };
+
+// Reads the settings files by bare calls, into memory that it uses again.
+void ReadSiteFiles(const std::vector<SiteHome::Paths>& sites);

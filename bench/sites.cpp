@@ -1,6 +1,7 @@
 // The lists of sites in the window, filled to the main loop's idle, and what
 // is done in them.
 #include <algorithm>
+#include <functional>
 
 #include "app/list_sorting.h"
 #include "app/widget_helpers.h"
@@ -16,6 +17,8 @@ namespace {
 constexpr std::size_t kSizes[] = {1000, 10000, 100000};
 constexpr std::size_t kRemovedSizes[] = {500, 5000};
 
+using Run = std::function<void()>;
+
 class SiteWindow {
  public:
   SiteWindow(int* argc, char*** argv)
@@ -29,27 +32,32 @@ class SiteWindow {
     RunToIdle();
   }
 
-  void MeasureAll(const SiteHome& home);
+  void MeasureAll(std::size_t sites);
   // All of the sites selected in the list, and removed.
-  void MeasureRemoval(const SiteHome& home);
+  void MeasureRemoval(std::size_t sites);
 
  private:
+  // `prepare` comes before both.
+  void Compare(const char* subject, const Run& panel, const Run& floor,
+               const Run& prepare = gdk_flush) const {
+    Measure({subject, home_.Sites().size()},
+            {{kPanel, panel, prepare}, {kFloor, floor, prepare}});
+  }
   // By the panel.
   void Fill(int page) {
     update_notebook_page(panel_, page);
     RunToIdle();
   }
-  void FillFloor(const SiteList& list, const SiteHome& home) {
-    FillBare(list, home.Sites(), home.SitePaths());
+  void FillFloor(const SiteList& list) {
+    FillBare(list, home_.Sites(), home_.SitePaths());
     RunToIdle();
   }
-  void MeasureMemory(const SiteHome& home);
-  void MeasureFirstFill(const SiteHome& home);
-  void MeasureRefill(const char* subject, int page, const SiteList& list,
-                     const SiteHome& home);
-  void MeasureSortedRefill(const SiteHome& home);
-  void MeasureChange(const SiteHome& home);
+  void MeasureMemory();
+  void MeasureFirstFill();
+  void MeasureSortedRefill();
+  void MeasureChange();
 
+  SiteHome home_;
   GnomeTCCapplet* panel_;
   SiteList camera_;
   SiteList storage_;
@@ -57,7 +65,7 @@ class SiteWindow {
 
 // What the panel holds when every list shows the sites, above what it holds
 // with none.
-void SiteWindow::MeasureMemory(const SiteHome& home) {
+void SiteWindow::MeasureMemory() {
   const auto fill_all = [this] {
     OpenStore(panel_);
     for (const int page : {kStoragePage, kPrivacyPage, kPlaybackPage}) {
@@ -71,135 +79,105 @@ void SiteWindow::MeasureMemory(const SiteHome& home) {
     }
     RunToIdle();
   };
-  Measure({"store and all lists", home.Sites().size()},
+  Measure({"store and all lists", home_.Sites().size()},
           {{kPanel, fill_all, empty_all}});
 }
 
-void SiteWindow::MeasureFirstFill(const SiteHome& home) {
-  Measure({"first fill of a list", home.Sites().size()},
-          {{kPanel, [&] { Fill(kPrivacyPage); },
-            [&] {
-              OpenStore(panel_);
-              gdk_flush();
-            }},
-           {kFloor,
-            [&] {
-              std::vector<char> buffer(65536);
-              for (const SiteHome::Paths& site : home.SitePaths()) {
-                ReadFile(site.settings_file.c_str(), &buffer);
-              }
-              FillFloor(camera_, home);
-            },
-            gdk_flush}});
+void SiteWindow::MeasureFirstFill() {
+  const auto read_and_fill = [this] {
+    ReadSiteFiles(home_.SitePaths());
+    FillFloor(camera_);
+  };
+  const auto open = [this] {
+    OpenStore(panel_);
+    gdk_flush();
+  };
+  Compare(
+      "first fill of a list", [this] { Fill(kPrivacyPage); }, read_and_fill,
+      open);
 }
 
-void SiteWindow::MeasureRefill(const char* subject, int page,
-                               const SiteList& list, const SiteHome& home) {
-  Measure({subject, home.Sites().size()},
-          {{kPanel, [&] { Fill(page); }, gdk_flush},
-           {kFloor, [&] { FillFloor(list, home); }, gdk_flush}});
-}
-
-void SiteWindow::MeasureSortedRefill(const SiteHome& home) {
+void SiteWindow::MeasureSortedRefill() {
   const auto sort_by = [this](int column) {
     gtk_list_store_clear(camera_.store);
     gtk_tree_sortable_set_sort_column_id(GTK_TREE_SORTABLE(camera_.store),
                                          column, GTK_SORT_ASCENDING);
     gdk_flush();
   };
-  const auto fill_sorted = [&] {
+  const auto fill_sorted = [this] {
     std::vector<std::pair<std::string, std::string>> sites;
-    for (const std::string& site : home.Sites()) {
+    for (const std::string& site : home_.Sites()) {
       sites.emplace_back(reverse_domain_components(site.c_str()), site);
     }
     std::ranges::sort(sites);
     SiteHome::Names sorted;
     for (auto& [key, site] : sites) sorted.push_back(std::move(site));
-    FillBare(camera_, sorted, home.SitePaths());
+    FillBare(camera_, sorted, home_.SitePaths());
     RunToIdle();
   };
   const auto unsort = [&] {
     sort_by(GTK_TREE_SORTABLE_UNSORTED_SORT_COLUMN_ID);
   };
-  Measure({"refill of a sorted list", home.Sites().size()},
-          {{kPanel, [&] { Fill(kPrivacyPage); }, [&] { sort_by(0); }},
+  Measure({"refill of a sorted list", home_.Sites().size()},
+          {{kPanel, [this] { Fill(kPrivacyPage); }, [&] { sort_by(0); }},
            {kFloor, fill_sorted, unsort}});
   unsort();
 }
 
 // The whole of what happens when a permission is chosen in one row.
-void SiteWindow::MeasureChange(const SiteHome& home) {
-  const std::string& site = home.Sites()[0];
+void SiteWindow::MeasureChange() {
+  const std::string& site = home_.Sites()[0];
   const std::string image = image::DefaultSiteFile(site);
-  Measure({"a row's permission changed", home.Sites().size()},
-          {{kPanel,
-            [&] {
-              (void)SetSiteState(kPermissions[kStorage], site.c_str(),
-                                 kPermissionStateAlwaysAsk);
-              Fill(kStoragePage);
-            },
-            gdk_flush},
-           {kFloor,
-            [&] {
-              RewriteFile(home.SitePaths()[0].settings_file.c_str(),
-                          image.data(), image.size());
-              FillFloor(storage_, home);
-            },
-            gdk_flush}});
+  const auto change = [&] {
+    (void)SetSiteState(kPermissions[kStorage], site.c_str(),
+                       kPermissionStateAlwaysAsk);
+    Fill(kStoragePage);
+  };
+  const auto rewrite = [&] {
+    RewriteFile(home_.SitePaths()[0].settings_file, image);
+    FillFloor(storage_);
+  };
+  Compare("a row's permission changed", change, rewrite);
 }
 
-void SiteWindow::MeasureAll(const SiteHome& home) {
-  MeasureMemory(home);
-  MeasureFirstFill(home);
+void SiteWindow::MeasureAll(std::size_t sites) {
+  home_.MakeSites(sites);
+  MeasureMemory();
+  MeasureFirstFill();
   OpenStore(panel_);
-  MeasureRefill("refill", kPrivacyPage, camera_, home);
-  MeasureRefill("refill with sizes", kStoragePage, storage_, home);
-  MeasureSortedRefill(home);
-  MeasureChange(home);
+  Compare(
+      "refill", [this] { Fill(kPrivacyPage); }, [this] { FillFloor(camera_); });
+  Compare(
+      "refill with sizes", [this] { Fill(kStoragePage); },
+      [this] { FillFloor(storage_); });
+  MeasureSortedRefill();
+  MeasureChange();
 }
 
-void SiteWindow::MeasureRemoval(const SiteHome& home) {
-  const auto restore = [&] {
-    for (std::size_t i = 0; i < home.Sites().size(); ++i) home.RestoreSite(i);
-    home.RestoreMasterFile();
+void SiteWindow::MeasureRemoval(std::size_t sites) {
+  home_.MakeSites(sites);
+  const auto restore = [this] {
+    home_.RestoreSites(1);
     OpenStore(panel_);
     Fill(kStoragePage);
   };
-  GtkWidget* remove =
+  GtkWidget* button =
       get_widget(panel_->builder, kLists[kStorageList].remove_button);
-  Measure({"all sites removed in window", home.Sites().size()},
-          {{kPanel,
-            [&] {
-              gtk_tree_selection_select_all(
-                  gtk_tree_view_get_selection(storage_.view));
-              gtk_widget_set_sensitive(remove, TRUE);
-              gtk_button_clicked(GTK_BUTTON(remove));
-              RunToIdle();
-            },
-            restore},
-           {kFloor,
-            [&] {
-              for (const SiteHome::Paths& site : home.SitePaths()) {
-                RemoveTree(site.storage);
-                RemoveTree(site.settings_directory);
-              }
-              RewriteFile(home.MasterPath().c_str(), home.MasterImage().data(),
-                          100);
-            },
-            restore}});
+  const auto remove = [&] {
+    gtk_tree_selection_select_all(gtk_tree_view_get_selection(storage_.view));
+    gtk_widget_set_sensitive(button, TRUE);
+    gtk_button_clicked(GTK_BUTTON(button));
+    RunToIdle();
+  };
+  Compare(
+      "all sites removed in window", remove, [this] { home_.RemoveSites(1); },
+      restore);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  SiteHome home;
   SiteWindow window(&argc, &argv);
-  for (const std::size_t size : kSizes) {
-    home.MakeSites(size);
-    window.MeasureAll(home);
-  }
-  for (const std::size_t size : kRemovedSizes) {
-    home.MakeSites(size);
-    window.MeasureRemoval(home);
-  }
+  for (const std::size_t size : kSizes) window.MeasureAll(size);
+  for (const std::size_t size : kRemovedSizes) window.MeasureRemoval(size);
 }

@@ -8,7 +8,7 @@
 
 #include "bench/bare_calls.h"
 #include "bench/harness.h"
-#include "strings/localized_string_manager.h"
+#include "strings/fixed_language.h"
 #include "strings/string_table.h"
 #include "tests/support/temporary_home.h"
 
@@ -17,13 +17,9 @@ namespace {
 using namespace NCPStrings;
 
 constexpr char kDomain[] = "corvane-bench";
-constexpr unsigned int kLanguage = 2;
+constexpr Language kLanguage = Language::kGerman;
+constexpr auto kFirstText = static_cast<std::size_t>(kLanguage) * kTextCount;
 constexpr std::size_t kTimes = 1000;
-
-class FixedLanguage : public LocalizedStringManager {
- public:
-  int GetCurrentSystemLanguageID() override { return kLanguage; }
-};
 
 // So that the compiler does not leave out the look-up.
 void Use(const char* text) { asm volatile("" : : "r"(text) : "memory"); }
@@ -37,7 +33,7 @@ void Use(const char* text) { asm volatile("" : : "r"(text) : "memory"); }
         NCPStringsMappingTable[static_cast<std::size_t>(middle)];
     const int record_id = static_cast<int>(record.id);
     if (record_id == id) {
-      return NCPStringsConstants[kLanguage * kTextCount + record.row];
+      return NCPStringsConstants[kFirstText + record.row];
     }
     if (id < record_id) {
       high = middle - 1;
@@ -86,7 +82,7 @@ int main() {
   bindtextdomain(kDomain, (home / "locale").c_str());
   std::vector<std::string> keys;
   for (const int id : ids) keys.push_back(std::to_string(id));
-  FixedLanguage strings;
+  FixedLanguage strings(kLanguage);
   const auto for_each = [](const auto& keys_or_ids, auto look_up) {
     return Times(kTimes, [&keys_or_ids, look_up] {
       for (const auto& key : keys_or_ids) Use(look_up(key));

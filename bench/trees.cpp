@@ -1,46 +1,41 @@
 // Trees removed, and the sizes of trees summed.
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <filesystem>
 
 #include "bench/bare_calls.h"
 #include "bench/harness.h"
 #include "platform/linux_file_manager.h"
 #include "tests/support/temporary_home.h"
 
+namespace fs = std::filesystem;
+
 namespace {
 
 constexpr std::size_t kFilesInDirectory = 100;
 
-void MakeWideTree(const std::string& path, std::size_t files) {
-  mkdir(path.c_str(), 0700);
-  const int top = open(path.c_str(), O_RDONLY | O_DIRECTORY);
+void MakeWideTree(const TemporaryHome& home, std::size_t files) {
   for (std::size_t i = 0; i < files; ++i) {
-    const std::string directory =
-        "directory" + std::to_string(i / kFilesInDirectory);
-    if (i % kFilesInDirectory == 0) mkdirat(top, directory.c_str(), 0700);
-    const std::string file = directory + "/file" + std::to_string(i) + ".sol";
-    close(openat(top, file.c_str(), O_WRONLY | O_CREAT, 0600));
+    home.Write("tree/directory" + std::to_string(i / kFilesInDirectory) +
+                   "/file" + std::to_string(i) + ".sol",
+               "");
   }
-  close(top);
 }
 
-void MakeDeepTree(const std::string& path, std::size_t levels) {
-  mkdir(path.c_str(), 0700);
-  int directory = open(path.c_str(), O_RDONLY | O_DIRECTORY);
+// Too deep for a path.
+void MakeDeepTree(const TemporaryHome& home, std::size_t levels) {
+  const fs::path former = fs::current_path();
+  fs::create_directory(home / "tree");
+  fs::current_path(home / "tree");
   for (std::size_t i = 0; i < levels; ++i) {
-    mkdirat(directory, "level", 0700);
-    const int child = openat(directory, "level", O_RDONLY | O_DIRECTORY);
-    close(directory);
-    directory = child;
+    fs::create_directory("level");
+    fs::current_path("level");
   }
-  close(directory);
+  fs::current_path(former);
 }
 
 struct Shape {
   const char* name;
   std::size_t sizes[3];
-  void (*make)(const std::string& path, std::size_t size);
+  void (*make)(const TemporaryHome& home, std::size_t size);
 };
 
 constexpr Shape kShapes[] = {
@@ -48,35 +43,29 @@ constexpr Shape kShapes[] = {
     {"nested", {20, 200, 2000}, MakeDeepTree},
 };
 
-void MeasureRemoval(const Shape& shape, std::size_t size,
-                    const std::string& path) {
-  const auto make = [&] { shape.make(path, size); };
+void MeasureTree(const Shape& shape, std::size_t size,
+                 const TemporaryHome& home) {
+  const std::string path = home / "tree";
   LinuxFileManager files;
-  Measure(
-      {std::string("tree removed, ") + shape.name, size},
-      {{kPanel, [&] { Check(files.RemoveFileAtPath(path.c_str()), "remove"); },
-        make},
-       {kFloor, [&] { RemoveTree(path); }, make},
-       {"rm -rf",
-        [&] {
-          RunProgram({"rm", "-rf", path});
-        },
-        make}});
-}
-
-void MeasureSize(const Shape& shape, std::size_t size,
-                 const std::string& path) {
-  shape.make(path, size);
-  const LinuxFileManager files;
+  const auto make = [&] { shape.make(home, size); };
+  const auto remove = [&] {
+    Check(files.RemoveFileAtPath(path.c_str()), "remove");
+  };
+  const auto run_rm = [&] { RunProgram({"rm", "-rf", path}); };
+  Measure({std::string("tree removed, ") + shape.name, size},
+          {{kPanel, remove, make},
+           {kFloor, [&] { RemoveTree(path); }, make},
+           {"rm -rf", run_rm, make}});
+  make();
   const std::size_t sum = SizeOfTree(path);
-  Measure(
-      {std::string("sizes summed, ") + shape.name, size},
-      {{kPanel,
-        [&] { Check(files.SizeOfFileAtPath(path.c_str()) == sum, "size"); }},
-       {kFloor, [&] { Check(SizeOfTree(path) == sum, "size"); }},
-       {"du -sb", [&] {
-          RunProgram({"du", "-sb", path});
-        }}});
+  const auto measure = [&] {
+    Check(files.SizeOfFileAtPath(path.c_str()) == sum, "size");
+  };
+  const auto run_du = [&] { RunProgram({"du", "-sb", path}); };
+  Measure({std::string("sizes summed, ") + shape.name, size},
+          {{kPanel, measure},
+           {kFloor, [&] { Check(SizeOfTree(path) == sum, "size"); }},
+           {"du -sb", run_du}});
   RemoveTree(path);
 }
 
@@ -84,11 +73,7 @@ void MeasureSize(const Shape& shape, std::size_t size,
 
 int main() {
   const TemporaryHome home;
-  const std::string path = home / "tree";
   for (const Shape& shape : kShapes) {
-    for (const std::size_t size : shape.sizes) {
-      MeasureRemoval(shape, size, path);
-      MeasureSize(shape, size, path);
-    }
+    for (const std::size_t size : shape.sizes) MeasureTree(shape, size, home);
   }
 }
