@@ -63,9 +63,7 @@ class HashMap {
   iterator end() const { return iterator(this, &sentinel_); }
 
   // The key's node, or end().
-  iterator find(const K& key) const {
-    return iterator(this, FindNode(key));
-  }
+  iterator find(const K& key) const { return iterator(this, FindNode(key)); }
 
   // Stores the value under the key, replacing the value of a key that is
   // present; only a new key is copied or moved. Returns the key's node.
