@@ -21,7 +21,7 @@ namespace {
 // What the library may take for the values of a document.
 constexpr std::size_t kMostMemory = std::size_t{2} << 30;
 
-using Names = std::unordered_set<std::string>;
+using NameSet = std::unordered_set<std::string>;
 
 // False when the digits are none, or those of a zero byte.
 bool ParseBytes(std::string_view digits, std::string* bytes) {
@@ -58,7 +58,7 @@ class DocumentReader {
       return Elements(value, read_location);
     };
     const auto read_sites = [&](const json_t* value) {
-      Names seen;
+      NameSet seen;
       document->sites.emplace();
       return Elements(value, [&](const json_t* site) {
         return ReadSite(site, &seen, &document->sites->emplace_back());
@@ -245,7 +245,7 @@ class DocumentReader {
     return true;
   }
 
-  bool ReadEntry(const json_t* object, bool is_global, Names* seen,
+  bool ReadEntry(const json_t* object, bool is_global, NameSet* seen,
                  Document::Entries* entries) {
     if (!CheckMembers(object, {"key", "value"})) return false;
     std::string key;
@@ -267,13 +267,13 @@ class DocumentReader {
 
   bool ReadEntries(const json_t* array, bool is_global,
                    Document::Entries* entries) {
-    Names seen;
+    NameSet seen;
     return Elements(array, [&](const json_t* entry) {
       return ReadEntry(entry, is_global, &seen, entries);
     });
   }
 
-  bool ReadSite(const json_t* object, Names* seen, Document::Site* site) {
+  bool ReadSite(const json_t* object, NameSet* seen, Document::Site* site) {
     if (!CheckMembers(object, {"site", "listed", "settings"})) return false;
     const auto read_name = [&](const json_t* value) {
       std::string name;
@@ -326,7 +326,7 @@ bool ReadText(const char* name, std::string* text, std::string* problem) {
 }
 
 // "LINE:COLUMN: "
-std::string Place(const json_error_t& error) {
+std::string PlaceOf(const json_error_t& error) {
   std::string place = std::to_string(error.line);
   place += ':';
   place += std::to_string(error.column);
@@ -344,7 +344,7 @@ bool ParseDocument(std::string_view text, Document* document,
                              &error));
   DocumentReader reader;
   if (!root) {
-    *problem = error.text[0] ? Place(error) + Printable(error.text)
+    *problem = error.text[0] ? PlaceOf(error) + Printable(error.text)
                              : " takes too much memory";
   } else if (!reader.Read(root.get(), document)) {
     problem->append(" ").append(reader.Problem());

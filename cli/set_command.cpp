@@ -60,7 +60,7 @@ bool CheckRequest(const CommandLine& line, const Request& request) {
   return true;
 }
 
-enum class Listing { kKept, kAdded };
+enum class ListEntry { kKept, kAdded };
 
 class SetCommand {
  public:
@@ -87,7 +87,7 @@ class SetCommand {
     changes_.Add(edit.ToChange());
     if (change.is_limit || change.permission->switch_overrides_sites) return;
     for (const std::string& site : store_.ListedSites()) {
-      Set(site.c_str(), {change}, Listing::kKept);
+      Set(site.c_str(), {change}, ListEntry::kKept);
     }
   }
 
@@ -96,10 +96,10 @@ class SetCommand {
     const bool is_listed = store_.IsListed(site.c_str());
     const bool adds = line_.Has(kAdd);
     if (store_.HasSettings(site) && (is_listed || !adds)) {
-      Set(site, permissions, Listing::kKept);
+      Set(site, permissions, ListEntry::kKept);
     } else if (is_listed || adds) {
       // The store drops a listed name without settings when it is opened.
-      Set(site, permissions, Listing::kAdded);
+      Set(site, permissions, ListEntry::kAdded);
     } else {
       unknown_.Report(site.c_str(), "; --add adds it");
       status_ = kFailure;
@@ -107,7 +107,8 @@ class SetCommand {
   }
 
   void Set(const SimpleString& site,
-           const std::vector<PermissionChange>& permissions, Listing listing) {
+           const std::vector<PermissionChange>& permissions,
+           ListEntry listing) {
     const SimpleString file = store_.Layout().SettingsFileOf(site);
     const SettingsOnDisk on_disk = ReadSettings(file);
     if (on_disk.problem.Exists()) {
@@ -116,12 +117,12 @@ class SetCommand {
       status_ = kFailure;
       return;
     }
-    if (on_disk.is_missing && listing == Listing::kKept) return;
+    if (on_disk.is_missing && listing == ListEntry::kKept) return;
     SettingsEdit edit(site, on_disk.dictionary.get());
-    if (listing == Listing::kAdded) edit.InsertDefaults(store_.Master());
+    if (listing == ListEntry::kAdded) edit.InsertDefaults(store_.Master());
     for (const auto& change : permissions) edit.Put(change);
     Change change = edit.ToChange();
-    if (listing == Listing::kAdded) PutOnList(site, &change);
+    if (listing == ListEntry::kAdded) PutOnList(site, &change);
     changes_.Add(std::move(change));
     DeleteDataOfBlocked(site, permissions);
   }

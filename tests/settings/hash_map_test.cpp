@@ -12,7 +12,7 @@ namespace {
 
 using SASM::SimpleString;
 using IntMap = SASM::HashMap<SimpleString, int, SASM::hashSS>;
-using Entry = std::pair<std::string, int>;
+using Row = std::pair<std::string, int>;
 
 unsigned int BucketOf(const std::string& key) {
   int sum = 0;
@@ -21,10 +21,10 @@ unsigned int BucketOf(const std::string& key) {
 }
 
 // The dictionary order from a sorted map: by bucket, then newest first.
-using Model = std::map<std::pair<unsigned int, int>, Entry>;
+using Model = std::map<std::pair<unsigned int, int>, Row>;
 
-std::vector<Entry> Walk(const IntMap& map) {
-  std::vector<Entry> all;
+std::vector<Row> Walk(const IntMap& map) {
+  std::vector<Row> all;
   const IntMap::Node* before = nullptr;
   for (auto at = map.begin();; ++at) {
     EXPECT_EQ(at->prev, before);
