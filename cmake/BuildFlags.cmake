@@ -15,6 +15,8 @@ target_compile_options(build_flags INTERFACE
   $<$<CXX_COMPILER_ID:Clang>:-Wnull-dereference>
   # Clang includes it in -Wconversion, g++ does not.
   $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>
+  # g++ takes a source that another one includes for a header.
+  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wno-subobject-linkage>
   $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
 
 # What an attacker must get past, beside being correct.
@@ -30,7 +32,7 @@ if(SANITIZE)
   target_compile_options(build_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize=vptr
     -fno-sanitize-recover=all
-    -fno-omit-frame-pointer -g)
+    -fno-omit-frame-pointer -g1)  # enough for the lines of a report
   target_link_options(build_flags INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -26,6 +26,12 @@ configure() {
   cmake -S . -B "$1" -G Ninja "${@:2}" >/dev/null
 }
 
+# Options of CMake: the sources of a folder are compiled as one, which takes half
+# the time from nothing, and more after a change. No two may then give the same
+# name to what is theirs alone.
+# shellcheck disable=SC2034  # Used by the scripts that source this file.
+as_one=(-DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0)
+
 # Usage: compile DIRECTORY [OPTION...]
 compile() {
   cmake --build "$1" --parallel "$(nproc)" "${@:2}"
