@@ -59,8 +59,10 @@ TemporaryHome::Names TemporaryHome::List() const {
 
 TemporaryHome::Snapshot TemporaryHome::Take() const {
   Snapshot snapshot;
-  for (const std::string& name : List()) {
-    if (fs::is_directory(path_ / name)) {
+  const std::size_t start = path_.native().size() + 1;
+  for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+    const std::string name = entry.path().native().substr(start);
+    if (entry.is_directory()) {
       snapshot[name + "/"];
     } else {
       snapshot[name] = Read(name);
