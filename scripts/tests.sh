@@ -36,5 +36,5 @@ run_tests() (
   export LSAN_OPTIONS=suppressions=$private/lsan.supp:print_suppressions=0
   in_virtual_display dbus-run-session -- \
     ctest --test-dir "$1" --output-on-failure --no-tests=error \
-    --timeout 300 --parallel "$(nproc)" "${@:2}"
+    --timeout 300 --parallel $(($(nproc) + 1)) "${@:2}"
 )
