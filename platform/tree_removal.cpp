@@ -21,14 +21,9 @@ TreeRemoval::TreeRemoval(FilePredicate* predicate)
 bool TreeRemoval::Remove(int directory, const char* name,
                          std::string directory_path) {
   directory_path_ = std::move(directory_path);
-  // Common case: one call removes a file. Whatever else that call reports, the
-  // steps below find out again.
-  if (!predicate_ && (unlinkat(directory, name, 0) == 0 || errno == ENOENT)) {
-    return true;
-  }
-  const bool is_directory = !predicate_ && errno == EISDIR;
+  // Common case: a directory of which everything goes.
   FileIdentity unused;
-  if (is_directory || VisitEntry(directory, name, DT_UNKNOWN, &unused)) {
+  if (!predicate_ || VisitEntry(directory, name, DT_UNKNOWN, &unused)) {
     Walk(directory, name);
   }
   return succeeded_;
@@ -65,8 +60,13 @@ void TreeRemoval::LeaveDirectory(int parent, const char* name) {
   // Entries remain: those that were spared, could not be removed, or came
   // while the removal ran.
   if (errno == ENOTEMPTY || errno == EEXIST) return;
-  // A link or a file was swapped in for the directory.
-  if (errno == ENOTDIR && !predicate_) return RemoveFile(parent, name);
+  const int error = errno;
+  struct stat info;
+  if (!predicate_ && fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) == 0 &&
+      !S_ISDIR(info.st_mode)) {
+    return RemoveFile(parent, name);  // no directory, or one no more
+  }
+  errno = error;
   Fail(kUnlinkDirectory);
 }
 
