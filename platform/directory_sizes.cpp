@@ -41,12 +41,12 @@ struct DirectorySizes::Root {
 DirectorySizes::DirectorySizes() : DirectoryWalk(kThere) {}
 DirectorySizes::~DirectorySizes() = default;
 
-DirectorySizes::Directory* DirectorySizes::Read(const char* path,
+DirectorySizes::Directory* DirectorySizes::Read(int directory, const char* path,
                                                 const FileIdentity& identity) {
   const auto [entry, is_new] = directories_.try_emplace(identity);
   if (is_new) {
     // The walk does not follow a link in its last component, which is ".".
-    Walk(AT_FDCWD, (std::string(path) + "/.").c_str(), identity);
+    Walk(directory, (std::string(path) + "/.").c_str(), identity);
     ReadAllRoots();
   }
   return &entry->second;

@@ -37,9 +37,11 @@ class DirectorySizes : private DirectoryWalk {
   DirectorySizes();
   ~DirectorySizes() override;
 
-  // The directory at `path`, with all below it read. `identity` is what
+  // The directory at `path`, which is relative to the open directory
+  // `directory` as for openat(2), with all below it read. `identity` is what
   // stat(2) says of it. Borrowed; lives as long as this object.
-  [[nodiscard]] Directory* Read(const char* path, const FileIdentity& identity);
+  [[nodiscard]] Directory* Read(int directory, const char* path,
+                                const FileIdentity& identity);
 
  private:
   struct Root;

@@ -1,5 +1,6 @@
 #include "platform/tree_size.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <optional>
@@ -9,12 +10,24 @@
 TreeSize::TreeSize() = default;
 
 std::uint64_t TreeSize::Measure(const char* path) {
+  HoldParentOf(path);
+  const int directory = parent_.IsOpen() ? parent_.Get() : AT_FDCWD;
+  if (parent_.IsOpen()) path += parent_path_.size();
   struct stat info;
-  if (stat(path, &info) != 0) return 0;
+  if (fstatat(directory, path, &info, 0) != 0) return 0;
   const auto own_bytes = static_cast<std::uint64_t>(info.st_size);
   if (!S_ISDIR(info.st_mode)) return own_bytes;
   return AddSizes(own_bytes, ContentOf(directories_.Read(
-                                 path, {info.st_dev, info.st_ino})));
+                                 directory, path, {info.st_dev, info.st_ino})));
+}
+
+void TreeSize::HoldParentOf(std::string_view path) {
+  const std::string_view parent = path.substr(0, path.rfind('/') + 1);
+  if (parent == parent_path_ && parent_.IsOpen()) return;
+  parent_path_ = parent;
+  parent_ = parent.size() == path.size()
+                ? FileDescriptor()
+                : OpenPlace(AT_FDCWD, parent_path_.c_str());
 }
 
 std::uint64_t TreeSize::ContentOf(Directory* top) {

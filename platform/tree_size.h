@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "platform/directory_sizes.h"
+#include "platform/file_descriptor.h"
 
 // Adds up the sizes that stat reports, links followed: a directory reached by
 // a link counts again, with everything in it, however often it is reached. A
@@ -11,7 +14,7 @@
 // size and ends there, so that circles end.
 //
 // Reads each directory once in its life: a later measurement that reaches the
-// same directory gives what it held then.
+// same directory gives what it held then. Keeps a descriptor.
 class TreeSize {
  public:
   TreeSize();
@@ -37,7 +40,12 @@ class TreeSize {
   void EnterNextSubdirectory();
   // The bytes of the directory that is done.
   std::uint64_t LeaveDirectory();
+  // What is measured one after another are often neighbours: the directory that
+  // holds them is looked up once.
+  void HoldParentOf(std::string_view path);
 
+  std::string parent_path_;  // with the slash at its end
+  FileDescriptor parent_;
   DirectorySizes directories_;
   // From the top of the tree to the directory that is being measured.
   std::vector<Step> steps_;
