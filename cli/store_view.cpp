@@ -72,7 +72,7 @@ std::vector<std::string> StoreView::ListedSites() const {
 }
 
 bool StoreView::HasSettings(const SimpleString& site) const {
-  return SASM::HasSettingsFile(site, layout_);
+  return SASM::SettingsFileSearch(layout_).HasFile(site);
 }
 
 std::vector<std::string> StoreView::PossibleSites() const {

@@ -151,9 +151,11 @@ bool ReadFileImage(const SimpleString& path, FileImage* image) {
   }
 }
 
-bool MayHoldSettings(const SimpleString& path) {
+bool MayHoldSettings(int directory, const SimpleString& path) {
   struct stat info;
-  if (stat(path.c_str(), &info) == 0) return info.st_size != 0;
+  if (fstatat(directory, path.c_str(), &info, 0) == 0) {
+    return info.st_size != 0;
+  }
   return LeavesContentUnknown(errno);
 }
 

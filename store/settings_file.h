@@ -40,9 +40,10 @@ inline constexpr std::size_t kLargestSettingsFile = std::size_t{64} << 20;
 // the user may read, and for 0.
 [[nodiscard]] bool LeavesContentUnknown(int error);
 
-// False when there is no file at `path`, links followed, or an empty one. True
+// False when there is no file at `path`, links followed, or an empty one; the
+// path is relative to the open directory `directory`, as for fstatat(2). True
 // also when that could not be found out.
-[[nodiscard]] bool MayHoldSettings(const SimpleString& path);
+[[nodiscard]] bool MayHoldSettings(int directory, const SimpleString& path);
 
 // Whether the directory at `path` was changed within the last second, so that
 // what is missing in it may be there soon.

@@ -105,8 +105,9 @@ std::unordered_set<const void*> SettingsManager::ElementsWithoutFile(
   const auto name_of = [](const void* element) -> const SimpleString& {
     return static_cast<const SettingDataItem*>(element)->name;
   };
+  const SettingsFileSearch search(mLayout);
   const auto has_file = [&](const void* element) {
-    return HasSettingsFile(name_of(element), mLayout);
+    return search.HasFile(name_of(element));
   };
   const auto may_be_rewritten = [&](const void* element) {
     return WasJustChanged(mLayout.DirectoryOf(name_of(element)));

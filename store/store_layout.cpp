@@ -52,6 +52,13 @@ SimpleString StoreLayout::SettingsFileOf(const SimpleString& domain) const {
   return Join(DirectoryOf(domain), kSettingsFileName);
 }
 
+SimpleString StoreLayout::WayToSettingsFileOf(const SimpleString& site) const {
+  if (!IsSiteName(site)) return {};
+  return SimpleString::Joined({kDomainDirectoryPrefix, site.c_str(),
+                               mFileManager->GetPathSeparator().c_str(),
+                               kSettingsFileName});
+}
+
 SimpleString StoreLayout::DictionaryNameOf(const SimpleString& domain) const {
   if (domain == MasterDomainName()) return kMasterDictionaryName;
   return SimpleString::Joined({domain.c_str(), kDomainDictionarySuffix});

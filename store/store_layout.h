@@ -32,6 +32,9 @@ class StoreLayout {
   // settings directory.
   [[nodiscard]] SimpleString DirectoryOf(const SimpleString& domain) const;
   [[nodiscard]] SimpleString SettingsFileOf(const SimpleString& domain) const;
+  // The same of a site, from the settings directory on.
+  [[nodiscard]] SimpleString WayToSettingsFileOf(
+      const SimpleString& site) const;
   // The name a domain's settings file carries inside.
   [[nodiscard]] SimpleString DictionaryNameOf(const SimpleString& domain) const;
 

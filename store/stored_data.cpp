@@ -4,8 +4,16 @@
 
 namespace SASM {
 
-bool HasSettingsFile(const SimpleString& domain, const StoreLayout& layout) {
-  return IsSiteName(domain) && MayHoldSettings(layout.SettingsFileOf(domain));
+SettingsFileSearch::SettingsFileSearch(const StoreLayout& layout)
+    : layout_(layout),
+      directory_(OpenPlace(AT_FDCWD, layout.SettingsDirectory().c_str())) {}
+
+bool SettingsFileSearch::HasFile(const SimpleString& site) const {
+  if (!IsSiteName(site)) return false;
+  return directory_.IsOpen()
+             ? MayHoldSettings(directory_.Get(),
+                               layout_.WayToSettingsFileOf(site))
+             : MayHoldSettings(AT_FDCWD, layout_.SettingsFileOf(site));
 }
 
 std::uint64_t LocalStorageSize(const SimpleString& domain,

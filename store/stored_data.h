@@ -3,15 +3,26 @@
 
 #include <cstdint>
 
+#include "platform/file_descriptor.h"
 #include "platform/file_manager.h"
 #include "store/store_layout.h"
 
 namespace SASM {
 
-// Whether the domain's settings file is there and not empty: only then does
-// the list of domains keep it. True also when that cannot be found out.
-[[nodiscard]] bool HasSettingsFile(const SimpleString& domain,
-                                   const StoreLayout& layout);
+// Finds settings files, of which only those that are there and not empty keep a
+// site in the list of domains.
+class SettingsFileSearch {
+ public:
+  // The layout is borrowed and outlives this object, which keeps a descriptor.
+  explicit SettingsFileSearch(const StoreLayout& layout);
+
+  // Whether the site has such a file. True also when that cannot be found out.
+  [[nodiscard]] bool HasFile(const SimpleString& site) const;
+
+ private:
+  const StoreLayout& layout_;
+  FileDescriptor directory_;
+};
 
 // Bytes of the domain's local storage, its directories' own included. 0 for
 // a name that is no site's.
