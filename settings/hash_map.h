@@ -67,11 +67,11 @@ class HashMap {
 
   // Stores the value under the key, replacing the value of a key that is
   // present; only a new key is copied or moved. Returns the key's node.
-  template <typename Key>
-  iterator insert(Key&& key, V value) {
-    Node* node = FindOrAddNode(std::forward<Key>(key));
-    node->value = std::move(value);
-    return iterator(this, node);
+  iterator insert(const K& key, V value) {
+    return Store(FindOrAddNode(key), std::move(value));
+  }
+  iterator insert(K&& key, V value) {
+    return Store(FindOrAddNode(std::move(key)), std::move(value));
   }
 
   // The value under the key; an empty one is stored under a new key.
@@ -121,6 +121,11 @@ class HashMap {
     }
   }
 
+  iterator Store(Node* node, V&& value) {
+    node->value = std::move(value);
+    return iterator(this, node);
+  }
+
   // The sentinel when the key is absent.
   Node* FindNode(const K& key) const {
     if (!index_.empty()) [[unlikely]] {
@@ -137,14 +142,21 @@ class HashMap {
 
   template <typename Key>
   Node* FindOrAddNode(Key&& key) {
+    if (!index_.empty()) return FindOrAddInIndex(std::forward<Key>(key));
     Node* node = FindNode(key);
     if (node == &sentinel_) {
-      const unsigned int hash = Hash(key);
-      node =
-          new Node{K(std::forward<Key>(key)), V(), hash % kBucketCount, hash};
-      Link(node);
-      AddToIndex(node);
+      node = AddNode(std::forward<Key>(key));
+      if (count_ > kMostWithoutIndex) AddAllToIndex();
     }
+    return node;
+  }
+
+  template <typename Key>
+  Node* AddNode(Key&& key) {
+    const unsigned int hash = Hash(key);
+    Node* node =
+        new Node{K(std::forward<Key>(key)), V(), hash % kBucketCount, hash};
+    Link(node);
     return node;
   }
 
@@ -180,13 +192,20 @@ class HashMap {
     return found == index_.end() ? &sentinel_ : found->second;
   }
 
-  // Nothing as long as the map is small. The first time adds all nodes.
-  void AddToIndex(Node* node) {
-    if (!index_.empty()) {
-      index_.emplace(IndexKey(node->key), node);
-    } else if (count_ > kMostWithoutIndex) {
-      for (Node& each : *this) index_.emplace(IndexKey(each.key), &each);
+  template <typename Key>
+  Node* FindOrAddInIndex(Key&& key) {
+    const IndexKey index_key(key);
+    const auto place = index_.lower_bound(index_key);
+    if (place != index_.end() && !(index_key < place->first)) {
+      return place->second;
     }
+    Node* node = AddNode(std::forward<Key>(key));
+    index_.emplace_hint(place, IndexKey(node->key), node);
+    return node;
+  }
+
+  void AddAllToIndex() {
+    for (Node& each : *this) index_.emplace(IndexKey(each.key), &each);
   }
 
   // All nodes by their keys, or empty.
