@@ -41,10 +41,11 @@ bool SettingsManager::RemoveDomainInformation(const SimpleString& domain,
 }
 
 void SettingsManager::RemoveEmptyDirectoriesAbove(const SimpleString& site) {
-  if (!mLayout.IsOnDisk()) return;
-  std::string path = mLayout.DirectoryOf(site).c_str();
   const std::string_view name = site.c_str();
-  for (auto left = std::ranges::count(name, '/'); left > 0; --left) {
+  auto left = std::ranges::count(name, '/');
+  if (left == 0 || !mLayout.IsOnDisk()) return;
+  std::string path = mLayout.DirectoryOf(site).c_str();
+  for (; left > 0; --left) {
     path.resize(path.rfind('/'));
     const std::size_t slash = path.rfind('/');
     const FileDescriptor holder = OpenBelow(mLayout.BaseDirectory().c_str(),
