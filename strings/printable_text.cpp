@@ -28,6 +28,13 @@ bool IsInvisible(std::string_view sequence) {
   return IsInvisible(character);
 }
 
+// Only letters, digits and signs of ASCII, which show as they are, as in nearly
+// every name.
+bool IsPlain(std::string_view text) {
+  return std::ranges::all_of(
+      text, [](char c) { return c >= ' ' && c <= '~' && c != '\\'; });
+}
+
 std::string Escaped(std::string_view bytes) {
   constexpr char kDigits[] = "0123456789ABCDEF";
   std::string text;
@@ -50,6 +57,7 @@ std::size_t SizeOfStart(std::string_view text, std::size_t characters) {
 }  // namespace
 
 std::string Printable(std::string_view bytes) {
+  if (IsPlain(bytes)) return std::string(bytes);
   std::string text;
   while (!bytes.empty()) {
     const std::size_t size = NCPStrings::SequenceLength(bytes);
@@ -83,5 +91,6 @@ std::string PrintableExcerpt(std::string_view bytes, std::size_t longest) {
 }
 
 int DisplayWidth(std::string_view text) {
+  if (IsPlain(text)) return static_cast<int>(text.size());
   return u8_width(Bytes(text), text.size(), "UTF-8");
 }
