@@ -81,10 +81,11 @@ class DetachedList {
   GtkListStore* store_;
 };
 
-UsedSpace MeasureSpace(const SimpleString& site) {
-  const double bytes = StorageSetting(SASM::kStorageLimit, site).spaceUsed();
-  return {StorageSetting::TextOfSpace(bytes),
-          static_cast<guint>(static_cast<guint64>(bytes))};
+UsedSpace MeasureSpace(const SASM::SettingsManager& settings,
+                       const SimpleString& site) {
+  const guint64 bytes = settings.SizeOfLocalStorage(site);
+  return {StorageSetting::TextOfSpace(static_cast<double>(bytes)),
+          static_cast<guint>(bytes)};
 }
 
 std::vector<Row> ReadNames(const SASM::SDIVector& names) {
@@ -109,7 +110,7 @@ std::vector<Row> ReadSites(GnomeTCCapplet* panel, const List& list,
         are_blocked ? nullptr
                     : panel->settings->EnsureSettingsAreLoadedForDomain(site);
     rows[i].state = EffectiveState(*list.permission, master, settings);
-    if (have_sizes) rows[i].used = MeasureSpace(site);
+    if (have_sizes) rows[i].used = MeasureSpace(*panel->settings, site);
   }
   return rows;
 }
