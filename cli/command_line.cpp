@@ -192,7 +192,7 @@ bool CheckArguments(const CommandLine& line) {
 bool ParseLimit(std::string_view text, PermissionChange* change) {
   change->is_limit = true;
   change->limit_kb = kUnlimited;
-  if (text != "unlimited") {
+  if (text != kUnlimitedWord) {
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, change->limit_kb);
     if (result.ec != std::errc() || result.ptr != end) return false;

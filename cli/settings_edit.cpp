@@ -54,7 +54,7 @@ std::string LimitWord(double limit_kb) {
   for (const PermissionChoice& choice : kPermissionChoices) {
     if (choice.limit_kb == limit_kb) return choice.word;
   }
-  if (limit_kb == kUnlimited) return "unlimited";
+  if (limit_kb == kUnlimited) return kUnlimitedWord;
   return limit_kb > 0 ? Decimal(limit_kb)
                       : ChoiceOrBlock(StateOfLimit(limit_kb)).word;
 }

@@ -8,18 +8,8 @@
 
 namespace {
 
-// Ids of texts.
-int TextIdOf(PluginState state) {
-  switch (state) {
-    case PluginState::kInstalled:
-      return 51300;
-    case PluginState::kNoVersion:
-      return 51301;
-    case PluginState::kNotInstalled:
-      break;
-  }
-  return 51302;
-}
+// By PluginState.
+constexpr int kTextIds[] = {51302, 51301, 51300};
 
 }  // namespace
 
@@ -27,7 +17,7 @@ ExitStatus RunVersion(const CommandLine&) {
   PrintProgramVersion(stdout);
   const char* version = nullptr;
   const PluginState state = FindPluginVersion(&version);
-  std::string text = TextOf(TextIdOf(state));
+  std::string text = TextOf(kTextIds[static_cast<unsigned int>(state)]);
   if (version) text = FillPlaceholder(text, Printable(version));
   std::puts(text.c_str());
   return kSuccess;

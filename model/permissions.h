@@ -21,6 +21,8 @@ enum PermissionState : int {
 inline constexpr double kLimitOfBlock = -1.0;
 inline constexpr double kLimitOfAsk = 0.0;
 inline constexpr double kUnlimited = -2.0;
+// On the command line.
+inline constexpr char kUnlimitedWord[] = "unlimited";
 
 // A state that a user can choose.
 struct PermissionChoice {
