@@ -27,8 +27,8 @@ std::size_t g_allocations = 0;
 
 extern "C" {
 COUNTED(malloc, (std::size_t size), (size))
-COUNTED(calloc, (std::size_t count, std::size_t size), (count, size))
-COUNTED(realloc, (void* memory, std::size_t size), (memory, size))
+COUNTED(calloc, (std::size_t nmemb, std::size_t size), (nmemb, size))
+COUNTED(realloc, (void* ptr, std::size_t size), (ptr, size))
 }
 
 namespace {
