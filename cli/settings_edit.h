@@ -11,6 +11,7 @@
 [[nodiscard]] bool AreEqual(const SASM::SettingDataItem& a,
                             const SASM::SettingDataItem& b);
 
+// What a command makes of the settings of one domain.
 class SettingsEdit {
  public:
   // `before` is copied; null is empty.
@@ -23,7 +24,7 @@ class SettingsEdit {
   // already.
   void Put(const PermissionChange& change);
   // Lets the change first remove what the domain then holds. For a domain of
-  // which Before knows nothing.
+  // which `before` held nothing.
   void ReplaceAll() { replaces_all_ = true; }
   // Inserts into what was before, too.
   void InsertDefaults(const SASM::SettingsDictionary& master);

@@ -30,8 +30,7 @@ struct SiteSettings {
 };
 
 // Reads the master settings once, and the settings of a site on request.
-// Defaults that the panel would write to disk are added in memory. Prints
-// nothing.
+// Defaults that the panel would write to disk are added in memory.
 class StoreView {
  public:
   StoreView();
@@ -40,7 +39,7 @@ class StoreView {
   [[nodiscard]] const SASM::StoreLayout& Layout() const { return layout_; }
 
   // What is wrong with the file of the master settings. A user without a home
-  // directory has none, of which the file manager has told.
+  // directory has none, which the file manager has reported.
   [[nodiscard]] const FileProblem& MasterProblem() const { return problem_; }
   [[nodiscard]] bool IsIntact() const {
     return layout_.IsOnDisk() && !problem_.Exists();
