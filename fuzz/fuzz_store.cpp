@@ -15,9 +15,9 @@
 #include <vector>
 
 #include "fuzz/fuzz_target.h"
+#include "platform/linux_file_manager.h"
 #include "store/default_settings.h"
 #include "store/settings_manager.h"
-#include "tests/support/home_file_manager.h"
 #include "tests/support/temporary_home.h"
 
 using SASM::SimpleString;
@@ -204,7 +204,7 @@ void TouchAllSites(SASM::SettingsManager* manager) {
   }
 }
 
-void RequireUsableStore(HomeFileManager* files) {
+void RequireUsableStore(LinuxFileManager* files) {
   SASM::SettingsManager manager(files);
   const SimpleString& master = SASM::SettingsManager::MasterDomain();
   for (const auto& row : SASM::DefaultMasterSettings()) {
@@ -232,7 +232,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
   for (const Record& record : records) Prepare(record);
   const std::vector<std::string> outside = Outside();
 
-  HomeFileManager files(Home());
+  LinuxFileManager files;
   {
     SASM::SettingsManager manager(&files);
     TouchAllSites(&manager);

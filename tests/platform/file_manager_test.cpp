@@ -11,10 +11,11 @@
 #include <filesystem>
 
 #include "platform/home_directory.h"
+#include "platform/linux_file_manager.h"
 #include "platform/tree_size.h"
 #include "tests/support/call_hooks.h"
-#include "tests/support/home_file_manager.h"
 #include "tests/support/privileges.h"
+#include "tests/support/temporary_home.h"
 
 namespace {
 
@@ -51,7 +52,7 @@ class Tree : public testing::Test {
   }
 
   TemporaryHome home_;
-  HomeFileManager files_{home_};
+  LinuxFileManager files_;
 };
 
 TEST_F(Tree, IsRemovedWithItsLinksAsLinks) {

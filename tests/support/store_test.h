@@ -1,4 +1,5 @@
-// The settings manager on a home of the test's own.
+// The settings manager on a home of the test's own. Each test needs a process
+// of its own, as a process remembers one home.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -6,9 +7,9 @@
 #include <filesystem>
 #include <optional>
 
+#include "platform/linux_file_manager.h"
 #include "store/setting_keys.h"
 #include "store/settings_manager.h"
-#include "tests/support/home_file_manager.h"
 #include "tests/support/settings_image.h"
 #include "tests/support/temporary_home.h"
 
@@ -16,6 +17,9 @@ class StoreTest : public testing::Test {
  public:
   // Starts the panel's store, once more when it was started.
   void Start() {
+    ASSERT_EQ(files_.GetUserSettingsBaseDirectory().c_str(),
+              home_ / ".orbelline/Corvane_Player")
+        << "run these tests through ctest";
     manager_.reset();
     manager_.emplace(&files_);
   }
@@ -63,6 +67,6 @@ class StoreTest : public testing::Test {
   }
 
   TemporaryHome home_;
-  HomeFileManager files_{home_};
+  LinuxFileManager files_;
   std::optional<SASM::SettingsManager> manager_;
 };
