@@ -171,11 +171,15 @@ class OneListTest(SiteListTest):
             press(answer)
             self.see(self.title)
         self.expect_stored([B], "domains")
+        press("Down")
+        self.expect_selected(B)
+        press("ctrl+space Delete")  # now that nothing is selected
         self.add_sites(C, A)
         press("F5")  # reads them again
         self.expect_rows(C, A)
         press("ctrl+a Delete")  # with the cursor where it was
         self.see("Confirmation Needed")
+        self.assertTrue(self.has(file_of(B)))
 
     # A click on the permission of a selected row keeps the selection; a double
     # click opens the menu and chooses nothing, whatever is under the pointer.
@@ -271,17 +275,19 @@ class TrustedLocationsTest(PanelTest):
         self.select("/b", "/d")
         press("Delete")
         self.expect_locations("/c", self.folder, self.folder)
-        # In whatever way the dialog is left.
-        for old, new in (("/c", "/e"), ("/e", "/f")):
+        # Kept however the dialog is left; Escape leaves the entry first.
+        for old, text, keys, new in (("/c", "/x", "Escape Escape", "/c"),
+                                     ("/c", "/e", "ctrl+w", "/e"),
+                                     ("/e", "/f", "", "/f")):
             self.select(old)
             press("Return")
-            write(new)
-            if new == "/e":
-                press("ctrl+w")
+            write(text)
+            if keys:
+                press(keys)
             else:
                 click_at(self.get("Close", "push button"))
-            self.expect_locations(new, self.folder, self.folder)
             self.see(MAIN_WINDOW)
+            self.expect_locations(new, self.folder, self.folder)
             self.click("Trusted Location Settings…")
             self.see("Trusted Location Settings")
         self.add_folder(str(self.home))
