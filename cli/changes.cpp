@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <unordered_set>
 #include <utility>
 
@@ -51,10 +50,6 @@ ExitStatus Changes::Finish(const CommandLine& line, const Print& print) const {
     std::ranges::for_each(change.lines, print);
   }
   return kSuccess;
-}
-
-ExitStatus Changes::Finish(const CommandLine& line) const {
-  return Finish(line, [](const std::string& text) { std::puts(text.c_str()); });
 }
 
 bool OwnsHome(const StoreView& store) {

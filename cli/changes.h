@@ -2,6 +2,7 @@
 // and applied.
 #pragma once
 
+#include <cstdio>
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,13 +29,12 @@ class Changes {
   void Add(Change change);
 
   using Print = std::function<void(const std::string& line)>;
+  static void PrintLine(const std::string& line) { std::puts(line.c_str()); }
 
   // Unless this is a --dry-run, applies the changes. Prints the lines of those
   // that were applied, or would be. Without changes opens nothing for writing.
   [[nodiscard]] ExitStatus Finish(const CommandLine& line,
-                                  const Print& print) const;
-  // The same on standard output.
-  [[nodiscard]] ExitStatus Finish(const CommandLine& line) const;
+                                  const Print& print = PrintLine) const;
 
  private:
   std::vector<Change> changes_;
