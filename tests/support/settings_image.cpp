@@ -1,23 +1,10 @@
 #include "tests/support/settings_image.h"
 
-#include <bit>
-#include <cstdint>
 #include <sstream>
 
 #include "settings/settings_reader.h"
 
 namespace image {
-namespace {
-
-Bytes BigEndian(std::uint64_t value, int size) {
-  Bytes bytes;
-  while (size-- > 0) bytes += static_cast<char>(value >> (8 * size));
-  return bytes;
-}
-
-Bytes OfType(char type, const Bytes& value) { return Bytes(1, type) + value; }
-
-}  // namespace
 
 Bytes Hex(const std::string& digits) {
   std::istringstream pairs(digits);
@@ -28,41 +15,9 @@ Bytes Hex(const std::string& digits) {
   return bytes;
 }
 
-Bytes U16(unsigned int value) { return BigEndian(value, 2); }
-Bytes U32(unsigned int value) { return BigEndian(value, 4); }
-
-Bytes Text(const std::string& text) {
-  return U16(static_cast<unsigned int>(text.size())) + text;
-}
-
-Bytes Number(double value) {
-  return OfType(0, BigEndian(std::bit_cast<std::uint64_t>(value), 8));
-}
-Bytes Bool(unsigned int value) { return OfType(1, BigEndian(value, 1)); }
-Bytes String(const std::string& text) { return OfType(2, Text(text)); }
-Bytes Array(const Bytes& elements) {
-  return OfType(3, elements + Hex("00 00 09"));
-}
-
-Bytes Element(const std::string& name, const Bytes& value) {
-  return Text(name) + value;
-}
-
-Bytes Entry(const std::string& key, const Bytes& value) {
-  return Text(key) + value + BigEndian(0, 1);
-}
-
-Bytes Body(const std::string& name, const Bytes& entries) {
-  return "TCSO" + U16(4) + U32(0) + Text(name) + U32(0) + entries;
-}
-
 Bytes Framed(const Bytes& body) {
   const auto size = static_cast<unsigned int>(body.size());
   return (size < 63 ? U16(0x80 | size) : U16(0xBF) + U32(size)) + body;
-}
-
-Bytes File(const std::string& name, const Bytes& entries) {
-  return Framed(Body(name, entries));
 }
 
 Bytes Flags(const std::vector<std::string>& names) {
@@ -92,14 +47,15 @@ Bytes DefaultSiteFile(const std::string& domain) {
                   Entry("allow", Bool(0)));
 }
 
-std::string Value(const SASM::SettingDataItem& item) {
+std::string Describe(const SASM::SettingDataItem& item) {
   std::ostringstream text;
+  text << item.name.c_str() << "=" << std::boolalpha;
   switch (item.type) {
     case SASM::kSettingsDataTypeDouble:
       text << item.value.number;
       break;
     case SASM::kSettingsDataTypeBool:
-      text << std::boolalpha << item.value.boolean;
+      text << item.value.boolean;
       break;
     case SASM::kSettingsDataTypeString:
       text << "'" << item.value.string->c_str() << "'";
@@ -115,10 +71,6 @@ std::string Value(const SASM::SettingDataItem& item) {
       text << "?" << item.type;
   }
   return text.str();
-}
-
-std::string Describe(const SASM::SettingDataItem& item) {
-  return item.name.c_str() + ("=" + Value(item));
 }
 
 std::string Describe(const SASM::SettingsDictionary& dictionary) {

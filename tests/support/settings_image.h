@@ -1,6 +1,8 @@
 // Settings images: built from readable pieces, and shown as text.
 #pragma once
 
+#include <bit>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,29 +13,48 @@ namespace image {
 
 using Bytes = std::string;
 
+inline Bytes BigEndian(std::uint64_t value, int size) {
+  Bytes bytes;
+  while (size-- > 0) bytes += static_cast<char>(value >> (8 * size));
+  return bytes;
+}
+inline Bytes U16(unsigned int value) { return BigEndian(value, 2); }
+inline Bytes U32(unsigned int value) { return BigEndian(value, 4); }
 // "00 BF 54": three bytes.
 Bytes Hex(const std::string& digits);
-Bytes U16(unsigned int value);
-Bytes U32(unsigned int value);
 // A U16 count and the bytes.
-Bytes Text(const std::string& text);
+inline Bytes Text(const std::string& text) {
+  return U16(static_cast<unsigned int>(text.size())) + text;
+}
 
 // Values, each behind its type byte.
-Bytes Number(double value);
-Bytes Bool(unsigned int value);
-Bytes String(const std::string& text);
-Bytes Array(const Bytes& elements = {});
+inline Bytes Number(double value) {
+  return Bytes(1, 0) + BigEndian(std::bit_cast<std::uint64_t>(value), 8);
+}
+inline Bytes Bool(unsigned int value) { return "\1" + BigEndian(value, 1); }
+inline Bytes String(const std::string& text) { return "\2" + Text(text); }
+inline Bytes Array(const Bytes& elements = {}) {
+  return "\3" + elements + Hex("00 00 09");
+}
 
 // An element of an array: a name and a value.
-Bytes Element(const std::string& name, const Bytes& value);
+inline Bytes Element(const std::string& name, const Bytes& value) {
+  return Text(name) + value;
+}
 // A key, a value and the closing zero.
-Bytes Entry(const std::string& key, const Bytes& value);
+inline Bytes Entry(const std::string& key, const Bytes& value) {
+  return Text(key) + value + BigEndian(0, 1);
+}
 
 // Magic, version 4 and dictionary name, then the entries.
-Bytes Body(const std::string& name, const Bytes& entries);
+inline Bytes Body(const std::string& name, const Bytes& entries) {
+  return "TCSO" + U16(4) + U32(0) + Text(name) + U32(0) + entries;
+}
 // A body behind its record header.
 Bytes Framed(const Bytes& body);
-Bytes File(const std::string& name, const Bytes& entries = {});
+inline Bytes File(const std::string& name, const Bytes& entries = {}) {
+  return Framed(Body(name, entries));
+}
 
 // An element "true" for each name.
 Bytes Flags(const std::vector<std::string>& names);
@@ -43,8 +64,6 @@ Bytes DefaultMasterFile(const Bytes& sites = {}, const Bytes& locations = {});
 // What a new site is given.
 Bytes DefaultSiteFile(const std::string& domain);
 
-// "1.5", "true", "'x'", "[e=true f='y']", "?7".
-std::string Value(const SASM::SettingDataItem& item);
 // In dictionary order: "k=1.5 b=true s='x' a=[e=true f='y'] u=?7".
 std::string Describe(const SASM::SettingsDictionary& dictionary);
 std::string Describe(const SASM::SettingDataItem& item);
