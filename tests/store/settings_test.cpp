@@ -151,21 +151,18 @@ TEST_F(SiteSettings, StayWhereFewDescriptorsAreLeft) {
 
 TEST_F(SiteSettings, ComeBackWhenNewOnesDoNotFit) {
   Begin({"a"});
-  const std::string long_text(4000, 'x');
-  const SASM::SimpleString text(long_text.c_str());
-  SASM::SettingDataItem item("k", SASM::kSettingsDataTypeString, &text);
+  const std::string text(4000, 'x');
+  SASM::SettingDataItem item("k", new SASM::SimpleString(text.c_str()));
   const TemporaryHome::Snapshot before = home_.Take();
   {
     const LoweredLimit small_files(RLIMIT_FSIZE, 2000);
     EXPECT_FALSE(manager_->SetSetting(&item, "k", "a"));
     EXPECT_FALSE(manager_->SetSetting(&item, "k", "___MASTER_DOMAIN"));
-  }
-  EXPECT_EQ(home_.Take(), before);
-  {
+    EXPECT_EQ(home_.Take(), before);
     const LoweredLimit tiny_files(RLIMIT_FSIZE, 10);
     EXPECT_FALSE(manager_->HasSetting("k", "new"));
+    EXPECT_FALSE(home_.Has(TemporaryHome::SettingsFileOf("new"))) << "torn";
   }
-  EXPECT_FALSE(home_.Has(TemporaryHome::SettingsFileOf("new"))) << "torn";
   EXPECT_TRUE(manager_->SetSetting(&item, "k", "a"));
 }
 
