@@ -128,12 +128,6 @@ void end_editing(GtkCellEditable* editor) {
   GtkWidget* list = gtk_widget_get_parent(GTK_WIDGET(editor));
   if (!list) return;
   gtk_cell_editable_editing_done(editor);
-  // A combo box emits this signal again when its menu is closed and the program
-  // is idle. The next combo box may be open by then, and its renderer, which is
-  // the same one, would take its own handlers for those of this one.
-  const guint done = g_signal_lookup("editing-done", GTK_TYPE_CELL_EDITABLE);
-  g_signal_handlers_disconnect_matched(editor, G_SIGNAL_MATCH_ID, done, 0,
-                                       nullptr, nullptr, nullptr);
   gtk_cell_editable_remove_widget(editor);
   // By itself the toolkit drops a focus that is inside the editor.
   gtk_widget_grab_focus(list);

@@ -133,9 +133,19 @@ void MarkSharedState(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
                                     nullptr, nullptr, renderer);
 }
 
+// A combo box whose menu is closed says once more that it is done when the
+// program is idle. The next combo box may be open by then, and its renderer,
+// which is the same one, would take its own handlers for those of this one.
+void BeDoneOnce(GtkCellEditable* combo_box, GtkCellRenderer* renderer) {
+  g_signal_handlers_disconnect_matched(combo_box, G_SIGNAL_MATCH_DATA, 0, 0,
+                                       nullptr, nullptr, renderer);
+}
+
 // By itself the toolkit leaves the closed choice in the cell, with the focus.
-void EndWithMenu(GtkCellRenderer*, GtkCellEditable* combo_box, const char*,
-                 gpointer) {
+void EndWithMenu(GtkCellRenderer* renderer, GtkCellEditable* combo_box,
+                 const char*, gpointer) {
+  g_signal_connect(combo_box, "remove-widget", G_CALLBACK(BeDoneOnce),
+                   renderer);
   GList* menus = gtk_menu_get_for_attach_widget(GTK_WIDGET(combo_box));
   if (!menus) return;  // a theme replaces the menu by a list
   g_signal_connect_object(menus->data, "selection-done",
