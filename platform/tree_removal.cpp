@@ -57,6 +57,7 @@ void TreeRemoval::RemoveFile(int directory, const char* name) {
 
 void TreeRemoval::LeaveDirectory(int parent, const char* name) {
   if (unlinkat(parent, name, AT_REMOVEDIR) == 0) return;
+  if (errno == ENOENT) return;  // nothing was there
   // Entries remain: those that were spared, could not be removed, or came
   // while the removal ran.
   if (errno == ENOTEMPTY || errno == EEXIST) return;
