@@ -68,18 +68,6 @@ bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
   return false;
 }
 
-// Without asking for the size of a file of one site, which is small.
-bool ReadOldFile(const FileDescriptor& file, FileImage* image) {
-  constexpr std::size_t kSmall = 1024;
-  image->bytes.reset(new unsigned char[kSmall]);
-  const ssize_t count = RetryInterrupted(
-      [&] { return read(file.Get(), image->bytes.get(), kSmall); });
-  image->size = static_cast<std::size_t>(count);
-  if (count >= 0 && image->size < kSmall) return true;
-  (void)lseek(file.Get(), 0, SEEK_SET);  // fails for what is no regular file
-  return ReadOpenFile(file, image);
-}
-
 bool ReadOnce(const char* path, FileImage* image) {
   FileDescriptor file = OpenForReading(AT_FDCWD, path, kReadFlags);
   if (!ReadOpenFile(file, image)) return false;
@@ -183,18 +171,19 @@ bool WaitForWriter() {
 
 bool ReplaceFile(int directory, const char* name,
                  std::span<const unsigned char> bytes) {
-  FileImage old;
   FileDescriptor old_file =
       OpenForReading(directory, name, kReadFlags | O_NOFOLLOW);
-  const bool has_old = old_file.IsOpen() && ReadOldFile(old_file, &old);
-  if (!has_old && LeavesContentUnknown(errno)) return false;
-  old_file.Close();  // its room and its descriptor may be the last
+  const bool is_there = old_file.IsOpen();
+  if (!is_there && LeavesContentUnknown(errno)) return false;
   if (CreateFile(directory, name, bytes)) return true;
+  FileImage old;
+  const bool is_read = ReadOpenFile(old_file, &old);
+  old_file.Close();  // its room and its descriptor may be the last
   if (CreateFile(directory, name, bytes)) return true;  // the fault may pass
   const int error = errno;
-  if (has_old) {
+  if (is_read) {
     (void)CreateFile(directory, name, old.Bytes());  // nothing else helps
-  } else {
+  } else if (!is_there) {
     (void)unlinkat(directory, name, 0);  // or it would be a torn file
   }
   errno = error;

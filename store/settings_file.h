@@ -57,11 +57,11 @@ inline constexpr int kWriterMilliseconds = 5;
 inline constexpr int kMostWaitsPerSecond = 20;
 
 // Replaces the file `name` in the open directory `directory`: removes it, then
-// creates a new one with these bytes, never through a link. Everything the new
-// file needs, and the old bytes, are in memory before the old file is removed.
-// False when the bytes could not be written whole; the old ones are then
-// written back. False with nothing changed when the old file could not be read
-// (see LeavesContentUnknown) or removed; errno then says why.
+// creates a new one with these bytes, never through a link. The old file is
+// held open until then. False when the bytes could not be written whole; those
+// of the old file are then read and written back. False with nothing changed
+// when the old file could not be opened (see LeavesContentUnknown) or removed;
+// errno then says why.
 [[nodiscard]] bool ReplaceFile(int directory, const char* name,
                                std::span<const unsigned char> bytes);
 
