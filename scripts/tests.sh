@@ -16,7 +16,8 @@ prepare_tests() {
 
 # Usage: build_tests DIRECTORY CMAKE_OPTION...
 build_tests() {
-  configure "$1" -DBUILD_TESTING=ON -DWARNINGS_AS_ERRORS=ON "${@:2}"
+  configure "$1" -DBUILD_TESTING=ON -DWARNINGS_AS_ERRORS=ON "${as_one[@]}" \
+    "${@:2}"
   compile "$1"
 }
 

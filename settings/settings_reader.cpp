@@ -69,7 +69,6 @@ SettingsReader::Entry SettingsReader::ReadEntry(SettingDataItem* item) {
   } else if (type < SASM::kSettingsDataTypeArray) {
     *item = ReadScalar(type, std::move(key));
   } else {
-    *item = SettingDataItem(key, SASM::_SettingsDataType{type}, nullptr);
     Report(
         "Unexpected data-type encountered when parsing settings; "
         "IGNORING VALUE.");
