@@ -41,39 +41,13 @@ bool ReadBytes(int file, unsigned char* bytes, std::size_t* size) {
   const std::size_t wanted = *size;
   *size = 0;
   while (*size < wanted) {
-    const ssize_t count = RetryInterrupted(
-        [&] { return read(file, bytes + *size, wanted - *size); });
+    const ssize_t count = RetryInterrupted([&] {
+      return pread(file, bytes + *size, wanted - *size,
+                   static_cast<off_t>(*size));
+    });
     if (count < 0) return false;
     if (count == 0) break;
     *size += static_cast<std::size_t>(count);
-  }
-  return true;
-}
-
-// False with ESTALE, after a line that says so, for a file that has become
-// shorter meanwhile.
-bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
-  if (!file.IsOpen() || !SizeOfRegularFile(file.Get(), &image->size)) {
-    return false;
-  }
-  const std::size_t wanted = image->size;
-  image->bytes.reset(new unsigned char[wanted]);
-  if (!ReadBytes(file.Get(), image->bytes.get(), &image->size)) return false;
-  if (image->size == wanted || wanted < kReadAtOnce) return true;
-  std::fputs(
-      "SMSettingsManager: Pathological error when reading master "
-      "settings.sol file.\n",
-      stderr);
-  errno = ESTALE;
-  return false;
-}
-
-bool ReadOnce(const char* path, FileImage* image) {
-  FileDescriptor file = OpenForReading(AT_FDCWD, path, kReadFlags);
-  if (!ReadOpenFile(file, image)) return false;
-  if (!file.Close()) {
-    std::fputs("SMSettingsManager: Unable to close master settings.sol file.\n",
-               stderr);
   }
   return true;
 }
@@ -86,6 +60,47 @@ bool IsComplete(const FileImage& image) {
   unsigned int length = 0;
   reader.GetHeaderInfo(&type, &length);
   return !reader.TakeFault().what && length <= image.size - reader.Position();
+}
+
+// Most files are small, and read with one call.
+bool ReadSmallFile(int file, FileImage* image) {
+  constexpr std::size_t kSmall = 1024;
+  image->bytes.reset(new unsigned char[kSmall]);
+  const ssize_t count =
+      RetryInterrupted([&] { return read(file, image->bytes.get(), kSmall); });
+  image->size = static_cast<std::size_t>(count);
+  return count >= 0 && image->size < kSmall && IsComplete(*image);
+}
+
+// False with ESTALE, after a line that says so, for a file that has become
+// shorter meanwhile.
+bool ReadFileOfAnySize(int file, FileImage* image) {
+  if (!SizeOfRegularFile(file, &image->size)) return false;
+  const std::size_t wanted = image->size;
+  image->bytes.reset(new unsigned char[wanted]);
+  if (!ReadBytes(file, image->bytes.get(), &image->size)) return false;
+  if (image->size == wanted || wanted < kReadAtOnce) return true;
+  std::fputs(
+      "SMSettingsManager: Pathological error when reading master "
+      "settings.sol file.\n",
+      stderr);
+  errno = ESTALE;
+  return false;
+}
+
+bool ReadOpenFile(const FileDescriptor& file, FileImage* image) {
+  return file.IsOpen() && (ReadSmallFile(file.Get(), image) ||
+                           ReadFileOfAnySize(file.Get(), image));
+}
+
+bool ReadOnce(const char* path, FileImage* image) {
+  FileDescriptor file = OpenForReading(AT_FDCWD, path, kReadFlags);
+  if (!ReadOpenFile(file, image)) return false;
+  if (!file.Close()) {
+    std::fputs("SMSettingsManager: Unable to close master settings.sol file.\n",
+               stderr);
+  }
+  return true;
 }
 
 SimpleString DirectoryOf(const SimpleString& path) {
