@@ -65,6 +65,15 @@ void KeepTextOnClose(GtkCellEditable* entry, GtkWidget* next_focus,
   }
 }
 
+// Likewise when the focus goes to another window, but for the entry's own menu.
+gboolean KeepTextOnLeave(GtkCellEditable* entry, GdkEventFocus*,
+                         GtkWindow* dialog) {
+  GtkWidget* menu = GTK_ENTRY(entry)->popup_menu;
+  const bool has_menu = menu && gtk_widget_get_visible(menu);
+  if (!gtk_window_has_toplevel_focus(dialog) && !has_menu) end_editing(entry);
+  return FALSE;
+}
+
 // Replaces the text of the row, which may be an excerpt or escaped.
 void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
                        const char* path, GnomeTCCapplet* panel) {
@@ -79,6 +88,8 @@ void EditWholeLocation(GtkCellRenderer*, GtkCellEditable* entry,
                           entry, G_CONNECT_SWAPPED);
   g_signal_connect_object(dialog, "hide", G_CALLBACK(end_editing), entry,
                           G_CONNECT_SWAPPED);
+  g_signal_connect(entry, "focus-out-event", G_CALLBACK(KeepTextOnLeave),
+                   dialog);
 }
 
 bool IsCollected(const GnomeTCCapplet* panel, guint32 index) {

@@ -277,7 +277,8 @@ class TrustedLocationsTest(PanelTest):
         self.expect_locations("/c", self.folder, self.folder)
         # Kept however the dialog is left; Escape leaves the entry first.
         for old, text, keys, new in (("/c", "/x", "Escape Escape", "/c"),
-                                     ("/c", "/e", "ctrl+w", "/e"),
+                                     ("/c", "/d", "ctrl+w", "/d"),
+                                     ("/d", "/e", "alt+F4", "/e"),
                                      ("/e", "/f", "", "/f")):
             self.select(old)
             press("Return")
