@@ -152,25 +152,28 @@ class OneListTest(SiteListTest):
         self.open(STORAGE, big, empty, small)
         self.click("Storage Used")
         self.expect_rows(empty, small, big)
+        self.click("Storage Used")  # descending
         self.add(big, BLOCK)
-        self.expect_rows(big, empty, small)
+        self.expect_rows(small, big, empty)
         self.assertFalse(self.has(data_of(big)))
         self.expect_state(big, BLOCK)
 
     def test_typing_finds_a_site_and_delete_removes_it(self):
-        self.open(CAMERA, A, B, "sunny.example", "z.example")
+        self.open(CAMERA, A, B, C, "z.example", "sunny.example")
         self.assertTrue(self.get(self.title, "table").grab_focus())
         write("NNY")
         self.expect_selected("sunny.example")
         press("Return Delete")
-        self.expect_stored([A, B, "z.example"], "domains")
-        self.select(A, "z.example")
+        self.expect_stored([A, B, C, "z.example"], "domains")
+        press("Down")
+        self.expect_selected("z.example")
+        self.select("z.example", A)
         for answer in ("Escape", "Return", "Tab Return"):
             press("Delete")
             self.see("Confirmation Needed")
             press(answer)
             self.see(self.title)
-        self.expect_stored([B], "domains")
+        self.expect_stored([B, C], "domains")
         press("Down")
         self.expect_selected(B)
         press("ctrl+space Delete")  # now that nothing is selected

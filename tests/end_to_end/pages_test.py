@@ -94,11 +94,14 @@ class AllSitesTest(PanelTest):
             self.assertEqual([is_in(node, "SENSITIVE") for node in users],
                              [not is_blocked] * 3)
         self.assertEqual(self.read(file_of(B)), before)
-        # Brings the list to the front again.
-        send("search", "--name", MAIN_WINDOW, "windowactivate")
-        self.see(MAIN_WINDOW)
-        self.click(title + "…")
-        self.see(title)
+        for owner, button, name in (
+                (MAIN_WINDOW, title + "…", title),
+                (title, "Add…", "Add Peer-assisted Networking Setting by Site")):
+            for _ in range(2):  # brings the dialog to the front again
+                send("search", "--name", f"^{owner}$", "windowactivate")
+                self.see(owner)
+                self.click(button)
+                self.see(name)
 
     def test_licences_are_reset(self):
         self.start("-p advanced")
