@@ -18,6 +18,7 @@ namespace SASM {
 
 bool SettingsManager::DeleteDomainStorage(const SimpleString& domain) {
   if (!IsSiteName(domain)) return false;
+  if (mLayout.ListingError() != 0) mLayout.FindLocalStorage();
   if (const int error = mLayout.ListingError()) {
     std::fprintf(stderr, "DeleteDomainStorage: %s\n", std::strerror(error));
     return false;

@@ -22,12 +22,17 @@ StoreLayout::StoreLayout(const FileManager* file_manager)
       mBaseDirectory(file_manager->GetUserSettingsBaseDirectory()),
       mSettingsDirectory(Join(mBaseDirectory, kSettingsPath)),
       mSharedObjectsDirectory(LocalStorageRoot()) {
+  FindLocalStorage();
+}
+
+void StoreLayout::FindLocalStorage() {
+  const SimpleString root = LocalStorageRoot();
   errno = 0;
   const std::unique_ptr<StringVector> names(
-      mFileManager->CreateNewListOfDirectoryContents(mSharedObjectsDirectory));
-  if (errno != ENOENT && errno != ENOTDIR) mListingError = errno;
+      mFileManager->CreateNewListOfDirectoryContents(root));
+  mListingError = errno == ENOENT || errno == ENOTDIR ? 0 : errno;
   if (names->count > 0) {
-    mSharedObjectsDirectory = Join(mSharedObjectsDirectory, names->TextAt(0));
+    mSharedObjectsDirectory = Join(root, names->TextAt(0));
   }
 }
 

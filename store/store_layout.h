@@ -40,7 +40,8 @@ class StoreLayout {
 
   // "#SharedObjects" itself.
   [[nodiscard]] SimpleString LocalStorageRoot() const;
-  // Fixed at construction, whatever is removed afterwards.
+  // The first directory in it. Fixed from when it could be listed, whatever is
+  // removed afterwards.
   [[nodiscard]] const SimpleString& LocalStorageDirectory() const {
     return mSharedObjectsDirectory;
   }
@@ -48,6 +49,8 @@ class StoreLayout {
   // The error number if it could not be listed: where sites store data is then
   // unknown. 0 also when it does not exist.
   [[nodiscard]] int ListingError() const { return mListingError; }
+  // Lists it again, which the constructor has done.
+  void FindLocalStorage();
 
   // `directory`, the separator, `name`; empty when one of them is.
   [[nodiscard]] SimpleString Join(const SimpleString& directory,

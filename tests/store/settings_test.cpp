@@ -104,6 +104,8 @@ TEST_F(MasterSettings, StayWhenAPassingErrorKeepsThemFromBeingRead) {
                 ": Too many open files\n");
   EXPECT_EQ(home_.Take(), before);
   EXPECT_TRUE(manager_->AddDomainWithDefaultSettings("a")) << "tried again";
+  EXPECT_TRUE(manager_->DeleteDomainStorage("a"));
+  EXPECT_FALSE(fs::exists(home_ / Storage("a"))) << "looked for again";
   EXPECT_EQ(Held("klimit", "b"), "klimit=7");
   EXPECT_EQ(Held("defaultklimit"), "defaultklimit=5");
   EXPECT_THAT(Listed(), ElementsAre("a", "b"));
