@@ -158,13 +158,16 @@ void MeasureLoad(const Load& load) {
            {"GKeyFile", times([&] { ParseKeyFile(key_file); })}});
   g_variant_unref(variant);
   std::string copy(load.image.size(), '\0');
+  const auto write = times([&] { WriteImage(load.domain); });
+  const auto copy_bytes = times([&] {
+    std::memcpy(copy.data(), load.image.data(), load.image.size());
+    asm volatile("" : : "r"(copy.data()) : "memory");
+  });
+  // Each once before, so that it finds its memory in the processor's cache.
   Measure(
       {load.name + " written", load.size},
-      {{kPanel, times([&] { WriteImage(load.domain); })},
-       {kFloor, times([&] {
-          std::memcpy(copy.data(), load.image.data(), load.image.size());
-          asm volatile("" : : "r"(copy.data()) : "memory");
-        })},
+      {{kPanel, write, write},
+       {kFloor, copy_bytes, copy_bytes},
        {"GVariant", times([&] { g_variant_unref(NewVariant(load.keys)); })}});
 }
 
