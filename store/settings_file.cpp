@@ -41,10 +41,8 @@ bool ReadBytes(int file, unsigned char* bytes, std::size_t* size) {
   const std::size_t wanted = *size;
   *size = 0;
   while (*size < wanted) {
-    const ssize_t count = RetryInterrupted([&] {
-      return pread(file, bytes + *size, wanted - *size,
-                   static_cast<off_t>(*size));
-    });
+    const ssize_t count = RetryInterrupted(
+        [&] { return read(file, bytes + *size, wanted - *size); });
     if (count < 0) return false;
     if (count == 0) break;
     *size += static_cast<std::size_t>(count);
@@ -62,12 +60,13 @@ bool IsComplete(const FileImage& image) {
   return !reader.TakeFault().what && length <= image.size - reader.Position();
 }
 
-// Most files are small, and read with one call.
+// Most files are small, and read with one call. It leaves the position alone,
+// and refuses pipes and terminals.
 bool ReadSmallFile(int file, FileImage* image) {
   constexpr std::size_t kSmall = 1024;
   image->bytes.reset(new unsigned char[kSmall]);
-  const ssize_t count =
-      RetryInterrupted([&] { return read(file, image->bytes.get(), kSmall); });
+  const ssize_t count = RetryInterrupted(
+      [&] { return pread(file, image->bytes.get(), kSmall, 0); });
   image->size = static_cast<std::size_t>(count);
   return count >= 0 && image->size < kSmall && IsComplete(*image);
 }

@@ -140,20 +140,24 @@ long syscall(long number, ...) {
 }
 
 // What must fail halfway reads or writes half of its bytes.
-#define CAN_BE_SHORT(call, name, bytes_type)                                \
-  ssize_t name(int file, bytes_type bytes, std::size_t size) {              \
-    static auto* next = Next<ssize_t(int, bytes_type, std::size_t)>(#name); \
+#define CAN_BE_SHORT(call, name, parameters, ...)                           \
+  ssize_t name parameters {                                                 \
+    static auto* next = Next<ssize_t parameters>(#name);                    \
     const bool is_later = state.met;                                        \
-    if (!Fails(call)) return next(file, bytes, size);                       \
+    if (!Fails(call))                                                       \
+      return next(file, bytes, size __VA_OPT__(, ) __VA_ARGS__);            \
     if (is_later || state.fault.effect < faults::Effect::kShort) return -1; \
-    const ssize_t count = next(file, bytes, (size + 1) / 2);                \
+    const ssize_t count =                                                   \
+        next(file, bytes, (size + 1) / 2 __VA_OPT__(, ) __VA_ARGS__);       \
     if (state.fault.effect == faults::Effect::kKillHalfway)                 \
       _exit(faults::kKilled);                                               \
     return count;                                                           \
   }
 
-CAN_BE_SHORT(kRead, read, void*)
-CAN_BE_SHORT(kWrite, write, const void*)
+CAN_BE_SHORT(kRead, read, (int file, void* bytes, std::size_t size))
+CAN_BE_SHORT(kRead, pread,
+             (int file, void* bytes, std::size_t size, off_t offset), offset)
+CAN_BE_SHORT(kWrite, write, (int file, const void* bytes, std::size_t size))
 
 // On Linux the descriptor is closed even when the call fails.
 CAN_FAIL(int, close, (int file), (file), (next(file), -1), kClose)
