@@ -38,27 +38,31 @@ TEST(HashMap, AgreesWithAModelOverRandomOperations) {
   const unsigned int seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
   std::mt19937 random(seed);
+  constexpr const char* kLetters[] = {"a", "b", "\xC3", " ", "q", "r"};
   IntMap map;
   Model model;
   for (int step = 0; step < 20000; ++step) {
     // Enough keys for maps with the index and maps without it.
-    std::string key;
-    for (auto n = random() % 5; n > 0; --n) key += "ab\xC3 qr"[random() % 6];
-    const auto found = map.find(key.c_str());
+    SimpleString key;
+    for (auto n = random() % 5; n > 0; --n) {
+      ASSERT_TRUE(key.AppendString(kLetters[random() % 6]));
+    }
+    const std::string text = key.c_str();
+    const auto found = map.find(key);
     const auto expected = std::ranges::find_if(
-        model, [&](const auto& node) { return node.second.first == key; });
+        model, [&](const auto& node) { return node.second.first == text; });
     const bool is_new = expected == model.end();
-    ASSERT_EQ(found == map.end(), is_new) << key;
+    ASSERT_EQ(found == map.end(), is_new) << text;
     const auto action = random() % 1000;
     if (action == 0) {
       EXPECT_TRUE(map.clear());
       model.clear();
     } else if (action < 700) {
-      const auto stored = map.insert(key.c_str(), step);
+      const auto stored = map.insert(key, step);
       ASSERT_TRUE(is_new || stored == found) << "the node stays";
       const auto place =
-          is_new ? std::pair(BucketOf(key), -step) : expected->first;
-      model[place] = {key, step};
+          is_new ? std::pair(BucketOf(text), -step) : expected->first;
+      model[place] = {text, step};
     } else if (!is_new) {
       map.erase(found);
       model.erase(expected);
