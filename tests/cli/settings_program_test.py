@@ -398,7 +398,8 @@ class ChangesTest(ProgramTest):
         self.put(file_of("bad"), b"damaged")
         self.run_program("set --add camera=ask good loop")
         self.run_in_home(f"ln -sf settings.sol ~/'{file_of('loop')}';"
-                         f"ln -s / ~/'{SHARED_OBJECTS}'")
+                         f"ln -s / ~/'{SHARED_OBJECTS}';>~/'{SETTINGS}/#e'")
+        self.put("policy", POLICY.encode())
         for arguments, output, error in (
                 ("set --all-sites camera=block", "all sites: camera ask → block"
                  "\ngood: camera ask → block\n", "Too many levels"),
@@ -409,7 +410,8 @@ class ChangesTest(ProgramTest):
                 ("set camera=block Good good", "good: camera ask → block\n",
                  "Good: no such site; did you mean good?; --add adds it"),
                 ("export", "", DAMAGE),
-                ("export nobody", "", "nobody: no such site")):
+                ("export nobody", "", "nobody: no such site"),
+                ("import ~/policy", None, "e: could not be changed")):
             self.expect(arguments, 1, output, error)
         self.assertEqual(self.read(file_of("bad")), b"damaged")
 

@@ -227,10 +227,9 @@ TEST_F(Tree, IsRemovedAroundWhatFails) {
   }
 }
 
-// The way back would lead to another directory, in which nothing is to go.
+// The way back would lead into another directory.
 TEST_F(Tree, IsNotRemovedAboveADirectoryThatWasMoved) {
   home_.Write("t/a/b/c/d/e/f/g/h/i/j/k/l/m/n/file", "");
-  fs::create_directory(home_ / "c");
   const LoweredLimit descriptors(RLIMIT_NOFILE, 12);
   before_call = [&](unsigned int, const std::string& path) {
     if (path.ends_with("file")) fs::rename(home_ / "t/a/b/c", home_ / "moved");
@@ -240,7 +239,6 @@ TEST_F(Tree, IsNotRemovedAboveADirectoryThatWasMoved) {
   before_call = nullptr;
   EXPECT_THAT(testing::internal::GetCapturedStderr(),
               testing::HasSubstr("stat: Stale file handle\n"));
-  EXPECT_TRUE(home_.Has("c"));
 }
 
 TEST_F(Tree, IsNotMadeOnAFileNorBelow) {
