@@ -93,6 +93,12 @@ class StorageListTest(SiteListTest):
             self.get(ALLOW, "menu item")
             press(KEYS[choice] + " Return")
             self.expect_state(B, choice)
+        self.select(C)
+        press("ctrl+Up Right Right Right Return")  # the cursor is on another
+        self.get(ALLOW, "menu item")
+        press(KEYS[BLOCK] + " Return")
+        self.expect_state(C, BLOCK)
+        self.expect_state(B, ALLOW)
 
     # By reversed name, or by permission; the order outlives a change.
     def test_selected_sites_of_a_sorted_list_are_removed(self):
@@ -116,7 +122,6 @@ class StorageListTest(SiteListTest):
         self.assertFalse(self.has(data_of("example")))
         self.assertFalse(self.has(file_of("z.b.example")))
         self.expect_stored(100, "klimit", A)
-
 
     def test_names_that_are_hard_to_show_keep_their_bytes(self):
         names = [os.fsdecode(b"caf\xe9"), "%s%n", "<b>&amp;</i>", "a\nb\tc",
