@@ -193,9 +193,10 @@ class ClearCommand {
   std::vector<std::string> SitesWithData() {
     const SimpleString directory = store_.Layout().LocalStorageDirectory();
     std::vector<std::string> sites;
-    const int error = store_.Layout().ListingError();
-    if (error != 0 || !ListDirectory(directory, &sites)) {
-      PrintError(directory.c_str(), std::strerror(error ? error : errno));
+    if (!store_.ReportUnknownStorage()) {
+      status_ = kFailure;
+    } else if (!ListDirectory(directory, &sites)) {
+      PrintError(directory.c_str(), std::strerror(errno));
       status_ = kFailure;
     }
     std::erase_if(sites, [this](const std::string& site) {

@@ -224,6 +224,7 @@ ExitStatus RunShow(const CommandLine& line) {
   const StoreView store;
   const bool is_intact = store.ReportProblem();
   if (line.Has(kNames)) return PrintNames(store, line);
+  const bool is_storage_known = store.ReportUnknownStorage();
   std::vector<SiteSettings> sites = ReadSites(store, selection);
   const std::size_t unknown = ReportUnknown(line, store, sites);
   if (unknown > 0 && unknown == line.words.size()) return kFailure;
@@ -233,5 +234,6 @@ ExitStatus RunShow(const CommandLine& line) {
   });
   line.Has(kJson) ? PrintStoreAsJson(store, sites)
                   : PrintStoreAsText(store, sites);
-  return is_intact && are_intact && unknown == 0 ? kSuccess : kFailure;
+  const bool is_whole = is_intact && is_storage_known && are_intact;
+  return is_whole && unknown == 0 ? kSuccess : kFailure;
 }

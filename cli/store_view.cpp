@@ -1,5 +1,6 @@
 #include "cli/store_view.h"
 
+#include <cstring>
 #include <set>
 #include <utility>
 
@@ -52,6 +53,14 @@ bool StoreView::ReportProblem() const {
                  problem_);
   }
   return IsIntact();
+}
+
+bool StoreView::ReportUnknownStorage() const {
+  const int error = layout_.ListingError();
+  if (error != 0) {
+    PrintError(layout_.LocalStorageRoot().c_str(), std::strerror(error));
+  }
+  return error == 0;
 }
 
 PermissionSettings StoreView::Global() const {

@@ -46,6 +46,8 @@ class StoreView {
   }
   // Prints what is wrong with the file. True when nothing is.
   [[nodiscard]] bool ReportProblem() const;
+  // Prints why it is not known where sites store data. True when it is.
+  [[nodiscard]] bool ReportUnknownStorage() const;
 
   [[nodiscard]] const SASM::SettingsDictionary& Master() const {
     return *master_;

@@ -409,6 +409,7 @@ class ChangesTest(ProgramTest):
                  DAMAGE),
                 ("set camera=block Good good", "good: camera ask → block\n",
                  "Good: no such site; did you mean good?; --add adds it"),
+                ("show", None, SHARED_OBJECTS + ": Too many levels"),
                 ("export", "", DAMAGE),
                 ("export nobody", "", "nobody: no such site"),
                 ("import ~/policy", None, "e: could not be changed")):
