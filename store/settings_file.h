@@ -59,9 +59,9 @@ inline constexpr int kMostWaitsPerSecond = 20;
 // Replaces the file `name` in the open directory `directory`: removes it, then
 // creates a new one with these bytes, never through a link. The old file is
 // held open until then. False when the bytes could not be written whole; those
-// of the old file are then read and written back. False with nothing changed
-// when the old file could not be opened (see LeavesContentUnknown) or removed;
-// errno then says why.
+// of the old file are then read and written back, and lost where that fails
+// too. False with nothing changed when the old file could not be opened (see
+// LeavesContentUnknown) or removed; errno then says why.
 [[nodiscard]] bool ReplaceFile(int directory, const char* name,
                                std::span<const unsigned char> bytes);
 

@@ -66,7 +66,7 @@ class SettingsManager {
       const SimpleString& path, SimpleString** name);
   // Rewrites the domain's file: the old one is removed, then the new one
   // written. False when the file could not be written; it is then as before,
-  // unless the disk cannot even take the old one back. A link in the place of
+  // unless the old one cannot be read or written back. A link in the place of
   // a directory on the way is such a failure.
   bool SynchronizeSettingsForDomain(const SimpleString& domain);
   // Removes the domain's settings file, or its whole directory unless

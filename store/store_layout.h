@@ -49,7 +49,7 @@ class StoreLayout {
   // The error number if it could not be listed: where sites store data is then
   // unknown. 0 also when it does not exist.
   [[nodiscard]] int ListingError() const { return mListingError; }
-  // Lists it again, which the constructor has done.
+  // Lists it, as the constructor has done: for another try after an error.
   void FindLocalStorage();
 
   // `directory`, the separator, `name`; empty when one of them is.
